@@ -2,10 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
-#include "scratch_dir.h"
+#include "support/test_files.h"
 #include "tarvola/userdict/HiztegiPertsonala.h"
 
 #ifndef _WIN32
@@ -38,6 +39,14 @@ std::vector<std::string> keys(const HiztegiPertsonala& hp) {
 
 using Strings = std::vector<std::string>;
 
+// What a rewrite leaves in the folder: no temporary file may remain.
+Strings names_in(const std::string& dir) {
+  Strings out;
+  for (const auto& e : std::filesystem::directory_iterator(dir))
+    out.push_back(e.path().filename().string());
+  return out;
+}
+
 TEST(DictionaryFile, LineColumns) {
   EXPECT_EQ(columns(ud::parse_line("etxe\t<ARR>\t\t\tHP")), "etxe|<ARR>|||HP");
   EXPECT_EQ(columns(ud::parse_line("etxe|<ARR>\ta\tb\tHP")), "etxe|<ARR>|a|b|HP");
@@ -52,18 +61,18 @@ TEST(DictionaryFile, LineColumns) {
 }
 
 TEST(DictionaryFile, LoadingSkipsCommentsAndMalformedLines) {
-  ScratchDir dir;
+  tarvola::testing::TempDir dir;
   HiztegiPertsonala missing(dir.file("ez-dago.txt"));
   EXPECT_TRUE(missing.sarrerak.empty());
   EXPECT_EQ(missing.luzeraMin, 10000);
   EXPECT_EQ(missing.hitzMax, 0);
 
-  write_file(dir.file("iruzkinak.txt"), "// bat\n\n//bi\t<ARR>\n \n");
+  tarvola::testing::write_file(dir.file("iruzkinak.txt"), "// bat\n\n//bi\t<ARR>\n \n");
   HiztegiPertsonala comments(dir.file("iruzkinak.txt"));
   EXPECT_TRUE(comments.sarrerak.empty());
   EXPECT_EQ(comments.luzeraMin, 10000);
 
-  write_file(dir.file("h.txt"),
+  tarvola::testing::write_file(dir.file("h.txt"),
              "\netxe\tARR\t\t\tHP"      // no brackets
              "\nx\t<ARR>\t\t\tHP"       // one-byte lemma
              "\nlibururik"              // no tab
@@ -85,7 +94,7 @@ class Removal : public ::testing::Test {
  protected:
   void SetUp() override {
     path = dir.file("hiztegia.txt");
-    write_file(path,
+    tarvola::testing::write_file(path,
                "// iruzkina\n"
                "etxe\t<ARR>\tbat\tbi\tHP\n"
                "ETXE\t<ARR>\t\t\tHP\n"
@@ -93,7 +102,7 @@ class Removal : public ::testing::Test {
                "gorri\t<ARR>\t\t\tHP\n"
                "hutsa\t<>\t\t\tHP\n");
   }
-  ScratchDir dir;
+  tarvola::testing::TempDir dir;
   std::string path;
 };
 
@@ -115,22 +124,22 @@ TEST_F(Removal, ComparesLemmasExactlyAndCategoriesAsSubstrings) {
   hp.kendu_sarrera(false, "hutsa", "<>");
   EXPECT_EQ(users(hp), (Strings{"etxe <ARR>", "gorri <IZO>"}));
   // Without idatzi the file is untouched.
-  EXPECT_EQ(read_file(path).substr(0, 12), "// iruzkina\n");
+  EXPECT_EQ(tarvola::testing::read_file(path).substr(0, 12), "// iruzkina\n");
 }
 
 TEST_F(Removal, RewriteWritesEveryColumnAndLeavesNoTemporaryFile) {
   HiztegiPertsonala hp(path);
   hp.kendu_sarrera(true, "gorri", "<IZO>");
-  EXPECT_EQ(read_file(path),
+  EXPECT_EQ(tarvola::testing::read_file(path),
             "\netxe\t<ARR>\tbat\tbi\tHP"
             "\nETXE\t<ARR>\t\t\tHP"
             "\ngorri\t<ARR>\t\t\tHP"
             "\nhutsa\t<>\t\t\tHP\n");
-  EXPECT_EQ(dir.names(), Strings{"hiztegia.txt"});
+  EXPECT_EQ(names_in(dir.path()), Strings{"hiztegia.txt"});
   // A word that is not there changes nothing, but the file is rewritten.
-  write_file(path, "// bakarrik iruzkina\netxe\t<ARR>\t\t\tHP\n");
+  tarvola::testing::write_file(path, "// bakarrik iruzkina\netxe\t<ARR>\t\t\tHP\n");
   hp.kendu_sarrera(true, "ez-dago", "<ARR>");
-  EXPECT_EQ(read_file(path).substr(0, 5), "\netxe");
+  EXPECT_EQ(tarvola::testing::read_file(path).substr(0, 5), "\netxe");
   // The rewritten file loads back to the same words.
   HiztegiPertsonala again(path);
   EXPECT_EQ(users(again), users(hp));
@@ -169,13 +178,13 @@ TEST_F(Removal, CopiesOwnTheirEntries) {
 TEST_F(Removal, ReadOnlyDirectoryKeepsTheOldFile) {
   if (geteuid() == 0) GTEST_SKIP() << "root writes into read-only directories";
   HiztegiPertsonala hp(path);
-  const std::string before = read_file(path);
+  const std::string before = tarvola::testing::read_file(path);
   std::filesystem::permissions(dir.path(), std::filesystem::perms::owner_read |
                                                std::filesystem::perms::owner_exec);
   hp.kendu_sarrera(true, "gorri", "<IZO>");
-  EXPECT_EQ(read_file(path), before);
+  EXPECT_EQ(tarvola::testing::read_file(path), before);
   std::filesystem::permissions(dir.path(), std::filesystem::perms::owner_all);
-  EXPECT_EQ(dir.names(), Strings{"hiztegia.txt"});
+  EXPECT_EQ(names_in(dir.path()), Strings{"hiztegia.txt"});
 }
 
 // A rewrite that fails half-way (here: the file size limit, as on a full
@@ -185,7 +194,7 @@ TEST_F(Removal, InterruptedRewriteKeepsTheOldFile) {
   HiztegiPertsonala hp(path);
   for (int i = 0; i < 2000; ++i)
     hp.gehitu_sarrera(false, "hitz" + std::to_string(i), "<ARR>", "", "", "HP");
-  const std::string before = read_file(path);
+  const std::string before = tarvola::testing::read_file(path);
   auto rewrite_with_limit = [&] {
     struct rlimit limit = {4096, 4096};
     setrlimit(RLIMIT_FSIZE, &limit);
@@ -198,8 +207,8 @@ TEST_F(Removal, InterruptedRewriteKeepsTheOldFile) {
         _exit(0);
       },
       ::testing::ExitedWithCode(0), "");
-  EXPECT_EQ(read_file(path), before);
-  EXPECT_EQ(dir.names(), Strings{"hiztegia.txt"});
+  EXPECT_EQ(tarvola::testing::read_file(path), before);
+  EXPECT_EQ(names_in(dir.path()), Strings{"hiztegia.txt"});
 
   EXPECT_EXIT(
       {
@@ -207,7 +216,7 @@ TEST_F(Removal, InterruptedRewriteKeepsTheOldFile) {
         _exit(0);
       },
       ::testing::KilledBySignal(SIGXFSZ), "");
-  EXPECT_EQ(read_file(path), before);
+  EXPECT_EQ(tarvola::testing::read_file(path), before);
 }
 
 TEST_F(Removal, RewriteThroughASymbolicLinkKeepsTheLink) {
@@ -216,7 +225,7 @@ TEST_F(Removal, RewriteThroughASymbolicLinkKeepsTheLink) {
   HiztegiPertsonala hp(link);
   hp.kendu_sarrera(true, "gorri", "<IZO>");
   EXPECT_TRUE(std::filesystem::is_symlink(link));
-  EXPECT_EQ(read_file(path).substr(0, 5), "\netxe");
+  EXPECT_EQ(tarvola::testing::read_file(path).substr(0, 5), "\netxe");
 }
 #endif
 

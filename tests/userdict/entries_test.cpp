@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "scratch_dir.h"
+#include "support/test_files.h"
 #include "tarvola/userdict/HiztegiPertsonala.h"
 
 namespace {
@@ -129,16 +129,16 @@ TEST(Entries, OneByteLocalityNameInSXZThrowsOutOfRange) {
 }
 
 TEST(Entries, AppendedLines) {
-  ScratchDir dir;
+  tarvola::testing::TempDir dir;
   const std::string path = dir.file("hiztegia.txt");
-  write_file(path, "lehen\t<ARR>\t\t\tHP");
+  tarvola::testing::write_file(path, "lehen\t<ARR>\t\t\tHP");
   HiztegiPertsonala hp(path);
   hp.gehitu_sarrera(true, "bat", "<ARR>", "x", "", "J");
   hp.gehitu_sarrera(true, "bi", "<ARR>", "", "y", "J");
   hp.gehitu_sarrera(true, "hiru", "<ARR>", "x", "y", "J");
   hp.gehitu_sarrera(true, "lau", "<zer>", "", "", "J");
   hp.gehitu_sarrera(true, "lehen", "<ARR>", "", "", "J");  // duplicate: not written
-  EXPECT_EQ(read_file(path),
+  EXPECT_EQ(tarvola::testing::read_file(path),
             "lehen\t<ARR>\t\t\tHP"
             "\nbat\t<ARR>\tx\t\tHP"
             "\nbi\t<ARR>\t\ty\tHP"
@@ -147,7 +147,7 @@ TEST(Entries, AppendedLines) {
   // A missing file is created by the first append.
   HiztegiPertsonala fresh(dir.file("berria.txt"));
   fresh.gehitu_sarrera(true, "etxe", "<ARR>", "", "", "HP");
-  EXPECT_EQ(read_file(dir.file("berria.txt")), "\netxe\t<ARR>\t\t\tHP");
+  EXPECT_EQ(tarvola::testing::read_file(dir.file("berria.txt")), "\netxe\t<ARR>\t\t\tHP");
   // Without a file, writing is a no-op.
   HiztegiPertsonala none;
   none.gehitu_sarrera(true, "etxe", "<ARR>", "", "", "HP");
