@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <set>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
@@ -46,6 +47,31 @@ void free_removed(const std::vector<HPsarrera*>& removed,
     if (e && !held.count(e) && freed.insert(e).second) delete e;
 }
 
+// Everything gehitu_sarrera does after its duplicate test: the file line,
+// the user entry, the paradigm entries.
+void add_word(HiztegiPertsonala& hp, bool write, const std::string& lemma,
+              const std::string& category, const std::string& extra1,
+              const std::string& extra2, const std::string& origin) {
+  if (write)
+    userdict::append_durably(hp.fitxategia,
+                             userdict::appended_line(lemma, category, extra1, extra2));
+
+  auto user = std::make_unique<HPsarrera>(lemma, category, "", extra1, extra2, "HP", "");
+  hp.sarrerak.push_back(user.get());
+  user.release();
+
+  // The first entry made under a key keeps it; later ones are dropped.
+  for (userdict::ParadigmRow& row : userdict::paradigm_rows(lemma, category)) {
+    std::string key = latin1::lowered(row.form);
+    if (hp.paradigmak.count(key)) continue;
+    auto entry = std::make_unique<HPsarrera>(std::move(row.lemma), std::move(row.tag),
+                                             std::move(row.form), extra1, extra2, origin,
+                                             std::move(row.klass));
+    hp.paradigmak.emplace(std::move(key), entry.get());
+    entry.release();
+  }
+}
+
 }  // namespace
 
 HiztegiPertsonala::HiztegiPertsonala() : luzeraMin(0), hitzMax(0) {}
@@ -75,7 +101,8 @@ HiztegiPertsonala::HiztegiPertsonala(const HiztegiPertsonala& other)
   try {
     sarrerak.reserve(other.sarrerak.size());
     for (const HPsarrera* e : other.sarrerak) sarrerak.push_back(clone(e));
-    for (const auto& kv : other.paradigmak) paradigmak.emplace_hint(paradigmak.end(), kv.first, clone(kv.second));
+    for (const auto& kv : other.paradigmak)
+      paradigmak.emplace_hint(paradigmak.end(), kv.first, clone(kv.second));
   } catch (...) {
     // A clone not yet in a container is freed here; the rest by free_all.
     std::unordered_set<HPsarrera*> placed(sarrerak.begin(), sarrerak.end());
@@ -107,25 +134,7 @@ void HiztegiPertsonala::gehitu_sarrera(bool idatzi, const std::string& lema,
                                        const std::string& jatorria) {
   for (const HPsarrera* e : sarrerak)
     if (e && e->lema == lema && e->kategoria == kategoria) return;
-
-  if (idatzi)
-    userdict::append_durably(fitxategia,
-                             userdict::appended_line(lema, kategoria, osagarria1, osagarria2));
-
-  auto user = std::make_unique<HPsarrera>(lema, kategoria, "", osagarria1, osagarria2, "HP", "");
-  sarrerak.push_back(user.get());
-  user.release();
-
-  // The first entry made under a key keeps it; later ones are dropped.
-  for (userdict::ParadigmRow& row : userdict::paradigm_rows(lema, kategoria)) {
-    std::string key = latin1::lowered(row.form);
-    if (paradigmak.count(key)) continue;
-    auto entry = std::make_unique<HPsarrera>(std::move(row.lemma), std::move(row.tag),
-                                             std::move(row.form), osagarria1, osagarria2,
-                                             jatorria, std::move(row.klass));
-    paradigmak.emplace(std::move(key), entry.get());
-    entry.release();
-  }
+  add_word(*this, idatzi, lema, kategoria, osagarria1, osagarria2, jatorria);
 }
 
 void HiztegiPertsonala::kendu_sarrera(bool idatzi, const std::string& lema,
@@ -161,10 +170,15 @@ void HiztegiPertsonala::kendu_sarrera(bool idatzi, const std::string& lema,
 
 void HiztegiPertsonala::kargatu_fitxategia() {
   luzeraMin = 10000;
+  // Loading starts from an empty dictionary, so the duplicate test can use
+  // a set of the words read so far instead of walking every entry.
+  std::set<std::pair<std::string, std::string>> seen;
   userdict::for_each_line(fitxategia, [&](std::string_view text) {
     std::optional<userdict::DictionaryLine> line = userdict::parse_line(text);
     if (!line || line->lemma.size() < 2 || line->category.empty()) return;
-    gehitu_sarrera(false, line->lemma, line->category, line->extra1, line->extra2, line->origin);
+    if (seen.emplace(line->lemma, line->category).second)
+      add_word(*this, false, line->lemma, line->category, line->extra1, line->extra2,
+               line->origin);
     const auto words = std::count(line->lemma.begin(), line->lemma.end(), ' ') + 1;
     if (words > hitzMax) hitzMax = static_cast<int>(words);
     if (line->lemma.size() < static_cast<std::size_t>(luzeraMin))

@@ -103,43 +103,51 @@ bool write_all(std::FILE* f, std::string_view text) {
   return text.empty() || std::fwrite(text.data(), 1, text.size(), f) == text.size();
 }
 
+#ifdef _WIN32
+int process_id() { return _getpid(); }
+
+int open_new(const std::string& name, const std::string&) {
+  return _open(name.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_TEXT, _S_IREAD | _S_IWRITE);
+}
+
+std::FILE* stream_of(int fd) { return _fdopen(fd, "w"); }
+void close_descriptor(int fd) { _close(fd); }
+#else
+int process_id() { return static_cast<int>(getpid()); }
+
+int open_new(const std::string& name, const std::string& target) {
+  int fd = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+  // The new file takes the old one's permissions and owner, as an in-place
+  // rewrite would have kept them.
+  struct stat old;
+  if (fd >= 0 && stat(target.c_str(), &old) == 0) {
+    (void)!fchmod(fd, old.st_mode & 07777);
+    (void)!fchown(fd, old.st_uid, old.st_gid);
+  }
+  return fd;
+}
+
+std::FILE* stream_of(int fd) { return fdopen(fd, "w"); }
+void close_descriptor(int fd) { close(fd); }
+#endif
+
 // Opens a new file of its own beside the target, named after it and the
 // process, for writing in text mode. Exclusive creation means a leftover of
 // an earlier crash, or a concurrent writer, is never written into.
 std::FILE* create_temporary(const std::string& target, std::string& name) {
   for (int attempt = 0; attempt < 100; ++attempt) {
-#ifdef _WIN32
-    name = target + ".tmp" + std::to_string(_getpid()) + "-" + std::to_string(attempt);
-    int fd = _open(name.c_str(), _O_WRONLY | _O_CREAT | _O_EXCL | _O_TEXT,
-                   _S_IREAD | _S_IWRITE);
-    if (fd >= 0) {
-      std::FILE* f = _fdopen(fd, "w");
-      if (!f) {
-        _close(fd);
-        std::remove(name.c_str());
-      }
-      return f;
+    name = target + ".tmp" + std::to_string(process_id()) + "-" + std::to_string(attempt);
+    const int fd = open_new(name, target);
+    if (fd < 0) {
+      if (errno != EEXIST) return nullptr;
+      continue;
     }
-#else
-    name = target + ".tmp" + std::to_string(getpid()) + "-" + std::to_string(attempt);
-    int fd = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-    if (fd >= 0) {
-      // The new file takes the old one's permissions and owner, as an
-      // in-place rewrite would have kept them.
-      struct stat old;
-      if (stat(target.c_str(), &old) == 0) {
-        (void)!fchmod(fd, old.st_mode & 07777);
-        (void)!fchown(fd, old.st_uid, old.st_gid);
-      }
-      std::FILE* f = fdopen(fd, "w");
-      if (!f) {
-        close(fd);
-        std::remove(name.c_str());
-      }
-      return f;
+    std::FILE* f = stream_of(fd);
+    if (!f) {
+      close_descriptor(fd);
+      std::remove(name.c_str());
     }
-#endif
-    if (errno != EEXIST) return nullptr;
+    return f;
   }
   return nullptr;
 }
@@ -157,7 +165,9 @@ std::string resolve_link(const std::string& path) {
 // Makes the rename itself durable: it lives in the directory's entries.
 void sync_directory_of(const std::string& path) {
   const std::size_t slash = path.rfind('/');
-  const std::string dir = slash == std::string::npos ? "." : slash == 0 ? "/" : path.substr(0, slash);
+  const std::string dir = slash == std::string::npos ? "."
+                          : slash == 0                ? "/"
+                                                      : path.substr(0, slash);
   int fd = open(dir.c_str(), O_RDONLY | O_CLOEXEC);
   if (fd < 0) return;
   (void)fsync(fd);
