@@ -158,7 +158,8 @@ TEST_F(Removal, CopiesOwnTheirEntries) {
 
   HiztegiPertsonala assigned;
   assigned = copy;
-  assigned = assigned;
+  HiztegiPertsonala& self = assigned;
+  assigned = self;
   original = assigned;
   EXPECT_EQ(users(original), users(copy));
   EXPECT_EQ(keys(original), keys(copy));
