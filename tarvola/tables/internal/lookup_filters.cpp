@@ -1,0 +1,44 @@
+#include "tarvola/tables/internal/lookup_filters.h"
+
+#include "tarvola/base/latin1.h"
+#include "tarvola/base/tags.h"
+
+namespace tarvola::internal {
+
+using tags::contains;
+
+bool maiuskulaIragazkia(std::string_view word, std::string_view analysis) {
+  const bool lower_word = !word.empty() && latin1::is_ascii_lower(word[0]);
+  if (lower_word && !analysis.empty() && latin1::is_ascii_upper(analysis[0])) return false;
+  if (lower_word && (contains(analysis, "<PIB>") || contains(analysis, "<LIB>") ||
+                     contains(analysis, "<IZB>")))
+    return false;
+  if (!contains(analysis, "<SNB>") && !contains(analysis, "<SIG>")) return true;
+  return tags::starts_with(word, tags::lemma_of(analysis));
+}
+
+namespace {
+
+// Every reading of the first list holds a blank; the others need "<PSP>".
+constexpr std::string_view kFixedReadings[] = {
+    "bidea ireki<", "bat egin<",  "bat etorri<", "asko izan<",   "bat egon<",
+    "bat izan<",    "bat ere<",   "eta bi<",     "eta beste<",   "eta gero<",
+    "lagun eraman<", "lagun izan<", "nahi beste<", "nola ez<",   "era batera<"};
+constexpr std::string_view kWithPostposition[] = {
+    "baina<", "bat<IZE>", "bate<IZE>", "bata<IZE>", "gara<IZE>",
+    "ondo<IZE>", "bera<ADJ>", "be<IZE>", "zut<ADJ>"};
+
+}  // namespace
+
+bool salbuespenIragazkia(std::string_view analysis) {
+  if (contains(analysis, " ")) {
+    for (std::string_view fixed : kFixedReadings)
+      if (contains(analysis, fixed)) return false;
+  }
+  if (!contains(analysis, "<PSP>")) return true;
+  for (std::string_view word : kWithPostposition)
+    if (contains(analysis, word)) return false;
+  return !(contains(analysis, "ondorengo") && contains(analysis, "<ELI_IZE>"));
+}
+
+}  // namespace tarvola::internal
