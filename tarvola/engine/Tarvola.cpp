@@ -32,16 +32,7 @@ Tarvola::Tarvola(const std::string& konfigurazioa, const std::string& hiztegia)
 
 Tarvola::Tarvola(const Tarvola& other) = default;
 
-Tarvola& Tarvola::operator=(const Tarvola& other) {
-  if (this != &other) {
-    konfigurazioa_ = other.konfigurazioa_;
-    hiztegia_ = other.hiztegia_;
-    sareak_ = other.sareak_;
-    hp_ = other.hp_;
-    resources_ = other.resources_;
-  }
-  return *this;
-}
+Tarvola& Tarvola::operator=(const Tarvola& other) = default;
 
 Tarvola::~Tarvola() {
   // The tables themselves go with the last engine that shares them.

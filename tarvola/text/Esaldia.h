@@ -53,11 +53,11 @@ class TARVOLA_API Esaldia {
   // Every reading of a form that spans n tokens, from the personal
   // dictionary, the networks (all but "hp" and "osag0", in name order) and
   // "osag0" (rare readings left out), in the order aukera selects.
-  std::vector<Analisia> analizatuTokena(SareMapa sareak, HiztegiPertsonala& hp,
+  std::vector<Analisia> analizatuTokena(const SareMapa& sareak, HiztegiPertsonala& hp,
                                         const std::string& forma, int n, bool aukera);
   // lista followed by the personal dictionary's readings of forma, taken
   // through the "hp" network; lista unchanged without that network.
-  std::vector<Analisia> analizatuHiztegiPertsonalean(SareMapa& sareak,
+  std::vector<Analisia> analizatuHiztegiPertsonalean(const SareMapa& sareak,
                                                      HiztegiPertsonala& hp,
                                                      const std::string& forma,
                                                      std::vector<Analisia>& lista, int n);

@@ -118,7 +118,7 @@ void Esaldia::analizatu(SareMapa sareak, HiztegiPertsonala& hp, bool aukera) {
   }
 }
 
-std::vector<Analisia> Esaldia::analizatuTokena(SareMapa sareak, HiztegiPertsonala& hp,
+std::vector<Analisia> Esaldia::analizatuTokena(const SareMapa& sareak, HiztegiPertsonala& hp,
                                                const std::string& forma, int n, bool aukera) {
   std::vector<Analisia> lista;
   const bool personal = !hp.paradigmak.empty() && n <= hp.hitzMax;
@@ -146,7 +146,7 @@ std::vector<Analisia> Esaldia::analizatuTokena(SareMapa sareak, HiztegiPertsonal
   return lista;
 }
 
-std::vector<Analisia> Esaldia::analizatuHiztegiPertsonalean(SareMapa& sareak,
+std::vector<Analisia> Esaldia::analizatuHiztegiPertsonalean(const SareMapa& sareak,
                                                             HiztegiPertsonala& hp,
                                                             const std::string& forma,
                                                             std::vector<Analisia>& lista, int n) {
