@@ -68,10 +68,18 @@ fs::path find_config(const std::string& option) {
     chosen = env;
     from = "TARVOLA_CONFIG";
   } else {
+    // Beside an installed tool, else the build tree's full data set, else its
+    // committed demo set.
     std::string exe = platform::executable_path();
-    fs::path installed = fs::path(exe).parent_path() / TARVOLA_SHARE_FROM_BIN / "tarvola.conf";
+    std::vector<fs::path> candidates;
+    if (!exe.empty())
+      candidates.push_back(fs::path(exe).parent_path() / TARVOLA_SHARE_FROM_BIN / "tarvola.conf");
+    candidates.push_back(TARVOLA_BUILT_CONFIG);
+    candidates.push_back(TARVOLA_DEMO_CONFIG);
     std::error_code ec;
-    chosen = !exe.empty() && fs::exists(installed, ec) ? installed : fs::path(TARVOLA_BUILD_CONFIG);
+    for (const fs::path& c : candidates)
+      if (chosen.empty() && fs::exists(c, ec)) chosen = c;
+    if (chosen.empty()) chosen = candidates.front();
     from = "the bundled data";
   }
   if (!readable_file(chosen)) {
