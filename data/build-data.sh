@@ -19,6 +19,7 @@
 set -eu
 
 HERE=$(cd "$(dirname "$0")" && pwd)
+. "$HERE/eumorfo/rules.sh"
 OUT=""
 UPDATE=0
 for arg in "$@"; do
@@ -98,12 +99,8 @@ if have_tools; then
   hfst-txt2fst -o "$WORK/apertium.hfst" "$WORK/apertium.att"
   # Case and number rewrites composed onto the analysis side, then the
   # project's punctuation and abbreviations united with the result.
-  grep -v '^#' "$HERE/eumorfo/cases.regexp" |
-    awk 'NF { printf "%s%s", (n++ ? " .o. " : ""), $0 } END { print " ;" }' > "$WORK/cases.txt"
-  hfst-regexp2fst -i "$WORK/cases.txt" -o "$WORK/cases.hfst"
-  grep -v '^#' "$HERE/eumorfo/extra.regexp" |
-    awk 'NF { printf "%s%s", (n++ ? " | " : ""), $0 } END { print " ;" }' > "$WORK/extra.txt"
-  hfst-regexp2fst -i "$WORK/extra.txt" -o "$WORK/extra.hfst"
+  compile_rules "$HERE/eumorfo/cases.regexp" " .o. " "$WORK/cases.hfst"
+  compile_rules "$HERE/eumorfo/extra.regexp" " | " "$WORK/extra.hfst"
   hfst-compose -1 "$WORK/apertium.hfst" -2 "$WORK/cases.hfst" -o "$WORK/cased.hfst"
   hfst-disjunct -1 "$WORK/cased.hfst" -2 "$WORK/extra.hfst" -o "$WORK/eumorfo.hfst"
   hfst-fst2txt "$WORK/eumorfo.hfst" > "$WORK/eumorfo.att"

@@ -11,7 +11,7 @@
 #include <iostream>
 #include <string>
 
-#include "tarvola/base/latin1.h"
+#include "corpus_words.h"
 #include "tarvola/tables/Taula.h"
 
 int main(int argc, char** argv) {
@@ -26,19 +26,11 @@ int main(int argc, char** argv) {
     std::ifstream in(argv[i], std::ios::binary);
     std::string line;
     while (std::getline(in, line)) {
-      std::size_t p = 0;
-      while (p < line.size()) {
-        if (!tarvola::latin1::is_word_char(line[p])) { ++p; continue; }
-        std::size_t q = p;
-        bool letter = false;
-        while (q < line.size() && tarvola::latin1::is_word_char(line[q])) letter |= !tarvola::latin1::is_digit(line[q]), ++q;
-        std::string w = line.substr(p, q - p);
-        p = q;
-        if (!letter) continue;
+      tarvola_data::for_each_word(line, [&](const std::string& w) {
         ++tokens;
         if (!table.analizatuTokena(w).empty()) ++known;
         else if (list) std::cout << w << "\n";
-      }
+      });
     }
   }
   if (!list) std::printf("%ld %ld %.2f%% %.0f\n", tokens, known, 100.0 * known / (tokens ? tokens : 1), load);
