@@ -5,9 +5,11 @@
 # tarvola's tag set by the same rules the build uses (cases.regexp through
 # hfst, then the renames of tags.map).
 #
-# usage: data/agreement.sh [--list] TABLE TEXT...
+# usage: data/agreement.sh [--list] [--fold] TABLE TEXT...
 #   TABLE  a converted eumorfoPG.txt (data/build-data.sh)
 #   TEXT   code page 1252 texts, e.g. ../shared/corpus/*.cp1252.txt
+#   --fold takes every word token lower-cased, not only the words written
+#          in lower case
 #   --list also prints every word whose readings differ (see
 #          data/tools/agreement.cpp for the format); the counts go to stderr.
 # The tool is taken from $AGREEMENT, else build/data/tarvola_agreement.
@@ -15,15 +17,22 @@ set -eu
 HERE=$(cd "$(dirname "$0")" && pwd)
 . "$HERE/eumorfo/rules.sh"
 LIST=""
-if [ "${1:-}" = --list ]; then LIST=--list; shift; fi
-if [ $# -lt 2 ]; then echo "usage: data/agreement.sh [--list] TABLE TEXT..." >&2; exit 2; fi
+WORDS=--words
+while :; do
+  case "${1:-}" in
+    --list) LIST=--list; shift ;;
+    --fold) WORDS=--folded-words; shift ;;
+    *) break ;;
+  esac
+done
+if [ $# -lt 2 ]; then echo "usage: data/agreement.sh [--list] [--fold] TABLE TEXT..." >&2; exit 2; fi
 TABLE=$1; shift
 TOOL=${AGREEMENT:-$HERE/../build/data/tarvola_agreement}
 AUTOMORF=/usr/share/apertium/apertium-eu-es/eu-es.automorf.bin
 WORK=$(mktemp -d)
 trap 'rm -rf "$WORK"' EXIT
 
-"$TOOL" --words "$@" | iconv -f cp1252 -t utf-8 > "$WORK/words.txt"
+"$TOOL" $WORDS "$@" | iconv -f cp1252 -t utf-8 > "$WORK/words.txt"
 lt-proc -a "$AUTOMORF" < "$WORK/words.txt" > "$WORK/lt.txt"
 compile_rules "$HERE/eumorfo/cases.regexp" " .o. " "$WORK/cases.hfst"
 

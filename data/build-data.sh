@@ -105,8 +105,8 @@ if have_tools; then
   hfst-disjunct -1 "$WORK/cased.hfst" -2 "$WORK/extra.hfst" -o "$WORK/eumorfo.hfst"
   hfst-fst2txt "$WORK/eumorfo.hfst" > "$WORK/eumorfo.att"
   "$IMPORTER" --surface-column 3 --tags "$HERE/eumorfo/tags.map" "$WORK/eumorfo.att" "$OUT/eumorfoPG.txt" \
-    2>>"$WORK/import.log"
-  echo "build-data: main network converted from $AUTOMORF" >&2
+    2>"$WORK/eumorfo.log" || { cat "$WORK/eumorfo.log" >&2; exit 1; }
+  echo "build-data: main network converted from $AUTOMORF: $(sed -n '$s/.*: //p' "$WORK/eumorfo.log")" >&2
 else
   cp "$HERE/demo/eumorfoPG.txt" "$OUT/eumorfoPG.txt"
   echo "build-data: WARNING: Apertium's Basque data or the toolkits (lttoolbox, hfst, sfst) could not be had;" >&2

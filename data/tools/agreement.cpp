@@ -5,6 +5,8 @@
 //   agreement --words TEXT...
 //       prints the distinct word tokens of code page 1252 texts that are
 //       written in lower case, one a line, in code page 1252.
+//   agreement --folded-words TEXT...
+//       the same for every word token, lower-cased.
 //   agreement [--list] TABLE TAGMAP < READINGS
 //       READINGS: UTF-8 lines "word<TAB>reading<TAB>reading...", the source
 //       analyser's readings after the case rewrite and before the tag renames
@@ -61,14 +63,15 @@ std::string rename_tags(const std::string& reading, const std::map<std::string, 
   return out;
 }
 
-int list_words(int argc, char** argv) {
+int list_words(int argc, char** argv, bool fold) {
   std::set<std::string> seen;
   for (int i = 2; i < argc; ++i) {
     std::ifstream in(argv[i], std::ios::binary);
     std::string line;
     while (std::getline(in, line)) {
       tarvola_data::for_each_word(line, [&](std::string w) {
-        if (tarvola::latin1::lowered(w) == w) seen.insert(std::move(w));
+        std::string lower = tarvola::latin1::lowered(w);
+        if (fold || lower == w) seen.insert(std::move(lower));
       });
     }
   }
@@ -79,11 +82,12 @@ int list_words(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc > 1 && !std::strcmp(argv[1], "--words")) return list_words(argc, argv);
+  if (argc > 1 && !std::strcmp(argv[1], "--words")) return list_words(argc, argv, false);
+  if (argc > 1 && !std::strcmp(argv[1], "--folded-words")) return list_words(argc, argv, true);
   bool list = argc > 1 && !std::strcmp(argv[1], "--list");
   int first = list ? 2 : 1;
   if (argc != first + 2) {
-    std::cerr << "usage: agreement --words TEXT... | agreement [--list] TABLE TAGMAP < READINGS\n";
+    std::cerr << "usage: agreement --words|--folded-words TEXT... | agreement [--list] TABLE TAGMAP < READINGS\n";
     return 2;
   }
   std::ifstream mapin(argv[first + 1], std::ios::binary);
