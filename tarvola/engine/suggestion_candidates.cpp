@@ -1,6 +1,7 @@
 #include "tarvola/engine/suggestion_candidates.h"
 
 #include <cstring>
+#include <string_view>
 #include <unordered_set>
 #include <utility>
 
@@ -44,14 +45,27 @@ class CaseOf {
   std::string fit(std::string text, std::size_t at) const {
     if (all_caps_) {
       latin1::upper_in_place(text);
-    } else if (!text.empty() && at < word_.size() &&
-               latin1::to_lower(word_[at]) != word_[at]) {
+    } else if (!text.empty() && is_capital(at)) {
       text[0] = latin1::to_upper(text[0]);
     }
     return text;
   }
 
+  // The word with `length` bytes at `at` replaced by `text`. When a capital
+  // first letter goes without a replacement, the capital moves on to the
+  // letter that now begins the word ("Hona" -> "Ona").
+  std::string replace(std::size_t at, std::size_t length, const std::string& text) const {
+    std::string out = word_.substr(0, at) + fit(text, at) + word_.substr(at + length);
+    if (text.empty() && at == 0 && is_capital(0) && !out.empty())
+      out[0] = latin1::to_upper(out[0]);
+    return out;
+  }
+
  private:
+  bool is_capital(std::size_t at) const {
+    return at < word_.size() && latin1::to_lower(word_[at]) != word_[at];
+  }
+
   const std::string& word_;
   bool all_caps_;
 };
@@ -82,14 +96,15 @@ std::vector<std::string> letter_group_candidates(const std::string& word) {
   const std::string lower = latin1::lowered(word);
   for (const LetterGroup& group : kLetterGroups) {
     const std::size_t length = std::strlen(group.written);
-    if (group.where == Where::kWordStart) {
-      if (lower.compare(0, length, group.written) == 0)
-        level.add(case_of.fit(group.meant, 0) + word.substr(length));
+    if (group.where == Where::kStartBeforeVowel) {
+      if (length < lower.size() && lower.compare(0, length, group.written) == 0 &&
+          std::string_view("aeiou").find(lower[length]) != std::string_view::npos)
+        level.add(case_of.replace(0, length, group.meant));
       continue;
     }
     for (std::size_t at = lower.find(group.written); at != std::string::npos;
          at = lower.find(group.written, at + 1)) {
-      level.add(word.substr(0, at) + case_of.fit(group.meant, at) + word.substr(at + length));
+      level.add(case_of.replace(at, length, group.meant));
     }
   }
   return level.take();
@@ -108,8 +123,7 @@ std::vector<std::string> one_letter_candidates(const std::string& word) {
   const CaseOf case_of(word);
   // A letter typed once too often: deleting a doubled letter gives one
   // candidate, not two.
-  for (std::size_t at = 0; at < word.size(); ++at)
-    level.add(word.substr(0, at) + word.substr(at + 1));
+  for (std::size_t at = 0; at < word.size(); ++at) level.add(case_of.replace(at, 1, ""));
   // A letter left out, at any place; it takes capitals only in an
   // all-capital word.
   for (std::size_t at = 0; at <= word.size(); ++at) {

@@ -17,7 +17,9 @@
 
 namespace tarvola::engine {
 
-enum class Where { kAnywhere, kWordStart };
+// kStartBeforeVowel: only at the very start of a word that begins with a
+// vowel (where Basque writes its initial h).
+enum class Where { kAnywhere, kStartBeforeVowel };
 
 struct LetterGroup {
   const char* written;
@@ -54,7 +56,7 @@ constexpr LetterGroup kLetterGroups[] = {
     // h is silent almost everywhere: dropped at the start ("emen" for
     // "hemen", "itz" for "hitz") or added where it has no place ("hurte"
     // for "urte"). A missing h inside the word is a one-letter insertion.
-    {"", "h", Where::kWordStart},
+    {"", "h", Where::kStartBeforeVowel},
     {"h", "", Where::kAnywhere},
     // b and v are one sound; the standard writes v only in a few loans.
     {"v", "b", Where::kAnywhere},
@@ -111,7 +113,7 @@ constexpr LetterGroup kLetterGroups[] = {
     {"ou", "u", Where::kAnywhere},
 };
 
-constexpr const char kInsertedLetters[] = "aeiourntkzsldgbhxmpjf";
+constexpr const char kInsertedLetters[] = "aeiourntkzsldgbhxmpjf\xF1" "cvywq";
 
 // Level 6 tries every letter, loans included, as the spelling search
 // requires.
