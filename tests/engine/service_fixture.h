@@ -30,6 +30,13 @@ inline std::unique_ptr<Tarvola> make_engine(const TempDir& dir, const NetworkPat
   return std::make_unique<Tarvola>(config_path, dir.write("hiztegia.txt", dictionary));
 }
 
+// The generated surface forms, in order.
+inline std::vector<std::string> forms(const std::vector<Analisia>& readings) {
+  std::vector<std::string> out;
+  for (const Analisia& a : readings) out.push_back(a.forma);
+  return out;
+}
+
 inline const std::vector<std::string>& main_paths() {
   static const std::vector<std::string> paths = {
       "e t x e <IZE>:<> <ARR>:<>",

@@ -9,11 +9,7 @@
 namespace tarvola {
 namespace {
 
-std::vector<std::string> forms(const std::vector<Analisia>& readings) {
-  std::vector<std::string> out;
-  for (const Analisia& a : readings) out.push_back(a.forma);
-  return out;
-}
+using testing::forms;
 
 class Validity : public ::testing::Test {
  protected:
