@@ -12,8 +12,8 @@
 //
 // Limits that keep every table finite: both areas stay under 10000 bytes,
 // a state is not re-entered on one path while the upper side has not grown
-// (a cycle that spells nothing), and one generation stops after kMaxSteps
-// steps or kMaxResults results.
+// (a cycle that spells nothing), and one generation stops after
+// kMaxGenerateSteps steps or kMaxResults results.
 #ifndef TARVOLA_TABLES_INTERNAL_GENERATE_WALK_H
 #define TARVOLA_TABLES_INTERNAL_GENERATE_WALK_H
 
@@ -30,6 +30,7 @@ namespace tarvola::internal {
 
 inline constexpr std::size_t kMaxTarget = 999;
 inline constexpr std::size_t kMaxArea = 9999;
+inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 22;
 
 // Copies the lemma's capitals onto the surface form, position by position,
 // up to the first tag of the upper side.
@@ -59,7 +60,7 @@ class GenerateWalk {
   };
 
   void walk(int state, unsigned flags, unsigned depth) {
-    if (++steps_ > kMaxSteps) stopped_ = true;
+    if (++steps_ > kMaxGenerateSteps) stopped_ = true;
     if (stopped_) return;
     // Callers only descend while the upper side agrees with the target.
     if (state < 0) return emit();
