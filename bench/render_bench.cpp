@@ -2,10 +2,8 @@
 // (with and without the suggestion search) and the CG3 text.
 //
 // The data set is the configuration given by TARVOLA_BENCH_CONFIG (default:
-// the committed demo set); its table paths are relative to its folder, so
-// the program works from there. Paragraphs are the lines of the prose
-// corpus (TARVOLA_BENCH_CORPUS, default the project's corpus folder), cut
-// to 2000 bytes.
+// the committed demo set), its table paths taken relative to its folder.
+// Paragraphs are the lines of the prose corpus, cut to 2000 bytes.
 //
 //   TARVOLA_BENCH_CONFIG=data/built/tarvola.conf ./build/bench/render_bench
 #include <benchmark/benchmark.h>
@@ -17,37 +15,36 @@
 #include <string>
 #include <vector>
 
+#include "support/engine_fixture.h"
+#include "support/test_files.h"
 #include "tarvola/engine/Tarvola.h"
 
 namespace {
 
 struct Setup {
+  tarvola::testing::TempDir dir;
   std::unique_ptr<tarvola::Tarvola> engine;
   std::vector<std::string> paragraphs;
 };
 
 Setup& setup() {
-  static Setup s = [] {
-    Setup out;
-    const char* corpus_path = std::getenv("TARVOLA_BENCH_CORPUS");
-    std::ifstream corpus(corpus_path ? std::string(corpus_path)
-                                     : std::string(TARVOLA_CORPUS_DIR) + "/eu-ud-dev.cp1252.txt",
-                         std::ios::binary);
-    for (std::string line; std::getline(corpus, line);)
-      if (!line.empty()) out.paragraphs.push_back(line.substr(0, 2000));
-    const char* given = std::getenv("TARVOLA_BENCH_CONFIG");
-    const std::filesystem::path config =
-        std::filesystem::absolute(given ? given : TARVOLA_SOURCE_DIR "/data/demo/tarvola.conf");
-    std::filesystem::current_path(config.parent_path());
-    out.engine = std::make_unique<tarvola::Tarvola>(config.string());
-    return out;
-  }();
+  static Setup s;
+  if (s.engine) return s;
+  std::ifstream corpus(tarvola::testing::corpus_path("eu-ud-dev.cp1252.txt"), std::ios::binary);
+  for (std::string line; std::getline(corpus, line);)
+    if (!line.empty()) s.paragraphs.push_back(line.substr(0, 2000));
+  const char* given = std::getenv("TARVOLA_BENCH_CONFIG");
+  const std::filesystem::path config =
+      std::filesystem::absolute(given ? given : TARVOLA_SOURCE_DIR "/data/demo/tarvola.conf");
+  s.engine = std::make_unique<tarvola::Tarvola>(s.dir.write(
+      "engine.conf",
+      tarvola::testing::absolute_config(config.string(), config.parent_path().string())));
   return s;
 }
 
 bool ready(benchmark::State& state, const Setup& s) {
   if (!s.paragraphs.empty()) return true;
-  state.SkipWithError("no corpus text (set TARVOLA_BENCH_CORPUS)");
+  state.SkipWithError("corpus text not found");
   return false;
 }
 
@@ -79,5 +76,3 @@ void BM_Cg3(benchmark::State& state) {
 BENCHMARK(BM_Cg3)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
-
-BENCHMARK_MAIN();

@@ -1,9 +1,23 @@
 // The engine: loads the networks listed in a configuration file and the
 // personal dictionary, and serves analysis, validity, generation and the
 // paragraph renderings.
+//
+// Construction reads the configuration file (format in
+// docs/CONFIGURATION.md), then loads each listed table in file order,
+// printing an empty line per network, then creates the personal dictionary
+// (read from its file by the two-path constructor). A table file name that
+// gives a network name shorter than two bytes makes construction throw
+// std::out_of_range.
+//
+// Copies share the networks, tables and dictionary; they are freed when the
+// last engine holding them is destroyed, so copies may be destroyed in any
+// order. Every destruction prints "Taulak husten...".
+//
+// One thread at a time per engine (and its copies); nothing is locked.
 #ifndef TARVOLA_ENGINE_TARVOLA_H
 #define TARVOLA_ENGINE_TARVOLA_H
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -15,6 +29,10 @@
 
 namespace tarvola {
 
+namespace internal {
+struct EngineResources;
+}  // namespace internal
+
 class TARVOLA_API Tarvola {
  public:
   Tarvola();
@@ -24,8 +42,15 @@ class TARVOLA_API Tarvola {
   Tarvola& operator=(const Tarvola& other);
   virtual ~Tarvola();
 
+  // The readings of the token in the named network's table; none for a
+  // name that no loaded network bears.
   std::vector<Analisia> analizatuTokena(std::string tokena, std::string sarea);
+  // The readings of every network's table, in network name order
+  // (byte-wise), duplicates kept.
   std::vector<Analisia> analizatuTokena(std::string tokena);
+  // The paragraph (always numbered 1, whatever id says) split and analysed
+  // with the personal dictionary first. On an engine without networks or
+  // without a dictionary (default-constructed) it comes back unsplit.
   Paragrafoa analizatu_paragrafoa(int id, std::string testua);
   bool isValid(std::string hitza, bool aurrizkiak);
   std::vector<Analisia> bilatuHasiera(std::string testua, bool standardOnly);
@@ -40,8 +65,9 @@ class TARVOLA_API Tarvola {
 
   std::string konfigurazioa_;
   std::string hiztegia_;
-  SareMapa sareak_;
-  HiztegiPertsonala* hp_;
+  SareMapa sareak_;        // network name -> network, as loaded
+  HiztegiPertsonala* hp_;  // the personal dictionary; null when default-built
+  std::shared_ptr<internal::EngineResources> resources_;  // owns the above
 };
 
 }  // namespace tarvola

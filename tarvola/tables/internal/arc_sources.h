@@ -5,6 +5,9 @@
 //
 //   valid(s)                 s names a state that can be walked
 //   guard_cycles()           whether epsilon cycles must be watched for
+//   viable(s, next)          whether entering s (a target taken from an arc)
+//                            before input byte `next` (-1: end of word) can
+//                            still lead to a result
 //   matches(s, rest, f)      f(upper, lower_length, target) for every arc of
 //                            s whose lower symbol begins `rest`, file order;
 //                            f returns false to stop
@@ -27,6 +30,7 @@ class IndexSource {
 
   bool valid(int s) const { return static_cast<std::size_t>(s) < t_.state_count(); }
   bool guard_cycles() const { return t_.has_epsilon_cycle(); }
+  bool viable(int s, int next) const { return t_.viable(static_cast<std::size_t>(s), next); }
 
   template <typename F>
   void matches(int s, std::string_view rest, F&& f) const {
@@ -87,6 +91,7 @@ class ObjectSource {
     return static_cast<std::size_t>(s) < states_.size() && states_[static_cast<std::size_t>(s)];
   }
   bool guard_cycles() const { return true; }
+  bool viable(int, int) const { return true; }
 
   template <typename F>
   void matches(int s, std::string_view rest, F&& f) const {

@@ -119,12 +119,15 @@ CompactTable::CompactTable(const std::vector<Egoera*>& states)
       }
     }
   }
-  find_epsilon_cycles();
+  std::vector<std::uint32_t> order;
+  find_epsilon_cycles(order);
+  compute_closures(order);
 }
 
 // Kahn's algorithm over the epsilon arcs: whatever cannot be peeled off
-// lies on or behind a cycle.
-void CompactTable::find_epsilon_cycles() {
+// lies on or behind a cycle. `order` receives the peeled states, each
+// before every state its epsilon arcs lead to.
+void CompactTable::find_epsilon_cycles(std::vector<std::uint32_t>& order) {
   const std::size_t n = states_.size();
   std::vector<std::uint32_t> indegree(n, 0);
   for (const CompactArc& a : arcs_)
@@ -137,6 +140,7 @@ void CompactTable::find_epsilon_cycles() {
     std::uint32_t s = ready.back();
     ready.pop_back();
     ++peeled;
+    order.push_back(s);
     const CompactState& rec = states_[s];
     for (std::uint32_t i = 0; i < rec.epsilon_count; ++i) {
       const CompactArc& a = arcs_[rec.arc_begin + i];
@@ -145,6 +149,41 @@ void CompactTable::find_epsilon_cycles() {
     }
   }
   epsilon_cycle_ = peeled < n;
+}
+
+}  // namespace tarvola::internal
+
+namespace tarvola::internal {
+
+// Closures are filled from the end of the epsilon order backwards, so every
+// epsilon target is complete before the states that lead to it. States on
+// epsilon cycles are not in that order: they get everything (no pruning).
+void CompactTable::compute_closures(const std::vector<std::uint32_t>& order) {
+  const std::size_t n = states_.size();
+  closure_bytes_.assign(n * 4, 0);
+  closure_final_.assign(n, 0);
+  if (order.size() < n) {
+    std::fill(closure_bytes_.begin(), closure_bytes_.end(), ~std::uint64_t{0});
+    std::fill(closure_final_.begin(), closure_final_.end(), 1);
+  }
+  for (auto it = order.rbegin(); it != order.rend(); ++it) {
+    const std::size_t s = *it;
+    const CompactState& rec = states_[s];
+    std::uint64_t* bytes = &closure_bytes_[s * 4];
+    for (std::uint32_t i = 0; i < rec.arc_count; ++i) {
+      const CompactArc& a = arcs_[rec.arc_begin + i];
+      if (a.lower_length > 0) {
+        const unsigned c = static_cast<unsigned char>(pool_[a.lower]);
+        bytes[c >> 6] |= std::uint64_t{1} << (c & 63);
+      } else if (a.target < 0) {
+        closure_final_[s] = 1;
+      } else {
+        const std::size_t t = static_cast<std::size_t>(a.target);
+        for (int w = 0; w < 4; ++w) bytes[w] |= closure_bytes_[t * 4 + static_cast<std::size_t>(w)];
+        closure_final_[s] |= closure_final_[t];
+      }
+    }
+  }
 }
 
 }  // namespace tarvola::internal

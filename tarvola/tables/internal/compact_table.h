@@ -11,6 +11,12 @@
 //
 // Symbols are stored once in a character pool. Arcs leading past the last
 // state are left out (no walk could follow them anyway).
+//
+// For pruning, each state also records what its epsilon closure can still
+// do: the first bytes it can consume next, and whether it can end without
+// consuming more. A branch that can do neither with the rest of the word
+// yields nothing, so the lookup walk does not enter it; results and their
+// order stay those of the full walk.
 #ifndef TARVOLA_TABLES_INTERNAL_COMPACT_TABLE_H
 #define TARVOLA_TABLES_INTERNAL_COMPACT_TABLE_H
 
@@ -64,6 +70,14 @@ class CompactTable {
   const std::uint32_t* file_order() const { return file_order_.data(); }
   const char* pool() const { return pool_.data(); }
 
+  // Whether a path entering state s with `next` as the next input byte
+  // (-1 at the end of the word) can still be accepted.
+  bool viable(std::size_t s, int next) const {
+    if (next < 0) return closure_final_[s] != 0;
+    const unsigned c = static_cast<unsigned>(next);
+    return (closure_bytes_[s * 4 + (c >> 6)] >> (c & 63)) & 1u;
+  }
+
   // The run of `state` whose lower symbols begin with byte c, or null.
   const CompactRun* run_for(const CompactState& state, unsigned char c) const {
     if (state.dense_row >= 0) {
@@ -83,7 +97,8 @@ class CompactTable {
 
  private:
   std::uint32_t intern(const std::string& symbol);
-  void find_epsilon_cycles();
+  void find_epsilon_cycles(std::vector<std::uint32_t>& order);
+  void compute_closures(const std::vector<std::uint32_t>& order);
 
   std::vector<CompactState> states_;
   std::vector<CompactArc> arcs_;
@@ -91,6 +106,8 @@ class CompactTable {
   std::vector<std::int32_t> dense_rows_;
   std::vector<std::uint32_t> file_order_;
   std::string pool_;
+  std::vector<std::uint64_t> closure_bytes_;  // 4 words (256 bits) per state
+  std::vector<std::uint8_t> closure_final_;
   bool ok_ = true;
   bool epsilon_cycle_ = false;
   const void* source_data_ = nullptr;

@@ -7,13 +7,35 @@ namespace tarvola::internal {
 
 using tags::contains;
 
+namespace {
+
+// Which of the tags the filters ask about occur in an analysis string,
+// found in one pass over its "<" characters.
+enum : unsigned { kProperNoun = 1, kSymbol = 2, kPostposition = 4 };
+
+unsigned tag_flags(std::string_view s) {
+  unsigned flags = 0;
+  for (std::size_t i = s.find('<'); i != std::string_view::npos && i + 4 < s.size();
+       i = s.find('<', i + 1)) {
+    std::string_view t = s.substr(i + 1, 4);
+    if (t == "PIB>" || t == "LIB>" || t == "IZB>")
+      flags |= kProperNoun;
+    else if (t == "SNB>" || t == "SIG>")
+      flags |= kSymbol;
+    else if (t == "PSP>")
+      flags |= kPostposition;
+  }
+  return flags;
+}
+
+}  // namespace
+
 bool maiuskulaIragazkia(std::string_view word, std::string_view analysis) {
   const bool lower_word = !word.empty() && latin1::is_ascii_lower(word[0]);
   if (lower_word && !analysis.empty() && latin1::is_ascii_upper(analysis[0])) return false;
-  if (lower_word && (contains(analysis, "<PIB>") || contains(analysis, "<LIB>") ||
-                     contains(analysis, "<IZB>")))
-    return false;
-  if (!contains(analysis, "<SNB>") && !contains(analysis, "<SIG>")) return true;
+  const unsigned flags = tag_flags(analysis);
+  if (lower_word && (flags & kProperNoun)) return false;
+  if (!(flags & kSymbol)) return true;
   return tags::starts_with(word, tags::lemma_of(analysis));
 }
 

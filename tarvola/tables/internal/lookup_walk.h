@@ -18,6 +18,7 @@
 #define TARVOLA_TABLES_INTERNAL_LOOKUP_WALK_H
 
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -56,15 +57,36 @@ inline std::string_view walk_word(std::string_view word) {
   return word.substr(0, kMaxWord);
 }
 
+// The output area of a walk: a fixed character area on the caller's stack,
+// extended and cut back in place (no allocation per word or per arc).
+class OutputArea {
+ public:
+  std::size_t size() const { return size_; }
+  std::string_view view() const { return std::string_view(data_, size_); }
+  bool fits(std::size_t more) const { return size_ + more <= kMaxOutput; }
+  void append(std::string_view s) {
+    // Symbols are a letter or a short tag: a plain loop beats a call.
+    char* out = data_ + size_;
+    for (char c : s) *out++ = c;
+    size_ += s.size();
+  }
+  void cut(std::size_t size) { size_ = size; }
+
+ private:
+  char data_[kMaxOutput + 1];
+  std::size_t size_ = 0;
+};
+
 template <typename Source>
 class LookupWalk {
  public:
   // `word` is the given word (already cut by walk_word).
   LookupWalk(const Source& source, std::string_view word, WalkResults& results)
-      : source_(source), given_(word), walked_(word), results_(results) {
-    latin1::lower_in_place(walked_);
+      : source_(source), given_(word), results_(results) {
+    for (std::size_t i = 0; i < word.size(); ++i) walked_[i] = latin1::to_lower(word[i]);
+    walked_size_ = word.size();
     given_all_upper_ = latin1::is_all_upper(word);
-    output_.reserve(kMaxOutput + 1);
+    given_lower_ = !word.empty() && latin1::is_ascii_lower(word[0]);
   }
 
   void run() {
@@ -82,14 +104,18 @@ class LookupWalk {
     if (++steps_ > kMaxSteps) stopped_ = true;
     if (stopped_) return;
     if (state < 0) {
-      if (pos == walked_.size() && maiuskulaIragazkia(given_, output_) &&
-          salbuespenIragazkia(output_))
+      if (pos == walked_size_ && maiuskulaIragazkia(given_, output_.view()) &&
+          salbuespenIragazkia(output_.view()))
         accept();
       return;
     }
     if (!source_.valid(state) || depth >= kMaxDepth) return;
-    if (output_.size() == 1 && !given_all_upper_ && !maiuskulaIragazkia(given_, output_)) return;
-    source_.matches(state, std::string_view(walked_).substr(pos),
+    // A one-character output holds no tag, so of the capitalisation filter
+    // only its first rule can fail here: a capital for a lower-case word.
+    if (output_.size() == 1 && !given_all_upper_ && given_lower_ &&
+        latin1::is_ascii_upper(output_.view()[0]))
+      return;
+    source_.matches(state, std::string_view(walked_ + pos, walked_size_ - pos),
                     [&](std::string_view upper, std::size_t lower_length, int target) {
                       follow(upper, pos, lower_length, target, depth);
                       return !stopped_;
@@ -98,8 +124,11 @@ class LookupWalk {
 
   void follow(std::string_view upper, std::size_t pos, std::size_t lower_length, int target,
               unsigned depth) {
-    if (output_.size() + upper.size() > kMaxOutput) return;
+    if (!output_.fits(upper.size())) return;
     const std::size_t next = pos + lower_length;
+    if (target >= 0 &&
+        !source_.viable(target, next < walked_size_ ? static_cast<unsigned char>(walked_[next]) : -1))
+      return;
     const bool guarded = source_.guard_cycles() && target >= 0;
     if (guarded) {
       if (lower_length == 0 && on_path(target, pos)) return;
@@ -108,7 +137,7 @@ class LookupWalk {
     const std::size_t mark = output_.size();
     output_.append(upper);
     walk(target, next, depth + 1);
-    output_.resize(mark);
+    output_.cut(mark);
     if (guarded) path_.pop_back();
   }
 
@@ -120,19 +149,21 @@ class LookupWalk {
   }
 
   void accept() {
-    results_.text += output_;
+    results_.text.append(output_.view());
     results_.ends.push_back(static_cast<std::uint32_t>(results_.text.size()));
     if (results_.size() >= kMaxResults) stopped_ = true;
   }
 
   const Source& source_;
   std::string_view given_;
-  std::string walked_;
+  char walked_[kMaxWord + 1];
+  std::size_t walked_size_ = 0;
   WalkResults& results_;
-  std::string output_;
+  OutputArea output_;
   std::vector<PathEntry> path_;
   std::uint64_t steps_ = 0;
   bool given_all_upper_ = false;
+  bool given_lower_ = false;
   bool stopped_ = false;
 };
 

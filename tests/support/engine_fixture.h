@@ -1,0 +1,38 @@
+// The engine fixture: the networks under tests/data/tables/engine/, listed
+// by tests/data/engine.conf with paths relative to tests/data. Since the
+// engine takes relative paths from the working directory, tests use a copy
+// of the configuration whose entries are made absolute.
+#ifndef TARVOLA_TESTS_SUPPORT_ENGINE_FIXTURE_H
+#define TARVOLA_TESTS_SUPPORT_ENGINE_FIXTURE_H
+
+#include <sstream>
+#include <string>
+
+#include "support/test_files.h"
+
+namespace tarvola::testing {
+
+inline std::string engine_table(const std::string& file) {
+  return data_path("tables/engine/" + file);
+}
+
+// A configuration text with every entry line prefixed by base + "/", for
+// configurations whose paths are relative to their own folder.
+inline std::string absolute_config(const std::string& config_path, const std::string& base) {
+  std::istringstream in(read_file(config_path));
+  std::string out, line;
+  while (std::getline(in, line)) {
+    bool entry = !line.empty() && line.compare(0, 2, "//") != 0 && line[0] != ' ' &&
+                 line[0] != '\t';
+    out += (entry ? base + "/" + line : line) + "\n";
+  }
+  return out;
+}
+
+inline std::string absolute_engine_config() {
+  return absolute_config(data_path("engine.conf"), TARVOLA_TEST_DATA_DIR);
+}
+
+}  // namespace tarvola::testing
+
+#endif

@@ -1,0 +1,85 @@
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tarvola/text/Esaldia.h"
+
+namespace tarvola {
+namespace {
+
+using Forms = std::vector<std::string>;
+
+std::vector<Tokena> tokens(const std::string& text) {
+  Esaldia sentence(0, text);
+  sentence.tokenizatu();
+  return sentence.tokenak;
+}
+
+Forms forms(const std::string& text) {
+  Forms out;
+  for (const Tokena& t : tokens(text)) out.push_back(t.forma);
+  return out;
+}
+
+TEST(Tokenizer, PunctuationAndBlanks) {
+  std::vector<Tokena> t = tokens("Kaixo, zer  moduz?");
+  EXPECT_EQ(forms("Kaixo, zer  moduz?"), (Forms{"Kaixo", ",", "zer", "moduz", "?"}));
+  std::vector<bool> blanks;
+  for (const Tokena& token : t) blanks.push_back(token.hutsunea);
+  EXPECT_EQ(blanks, (std::vector<bool>{false, true, true, false, false}));
+  EXPECT_EQ(forms("(etxe)[a]{b}"), (Forms{"(", "etxe", ")", "[", "a", "]", "{", "b", "}"}));
+  EXPECT_EQ(forms("\xA1" "Bai!"), (Forms{"\xA1", "Bai", "!"}));
+}
+
+TEST(Tokenizer, PeriodsAfterDigitsAndInsideWords) {
+  EXPECT_EQ(forms("1990. urtean"), (Forms{"1990", "urtean"}));
+  EXPECT_TRUE(tokens("1990. urtean")[0].hutsunea);
+  EXPECT_EQ(forms("urtea 1990."), (Forms{"urtea", "1990", "."}));
+  EXPECT_EQ(forms("3.5 eta 3,5"), (Forms{"3.5", "eta", "3", ",", "5"}));
+  EXPECT_EQ(forms("etab. eta"), (Forms{"etab", ".", "eta"}));
+  EXPECT_EQ(forms("etab.etab a.b. "), (Forms{"etab.etab", "a.b", "."}));
+  EXPECT_EQ(forms("1.)"), (Forms{"1", ")"}));
+}
+
+TEST(Tokenizer, AddressesRunToTheBlankAndFuse) {
+  EXPECT_EQ(forms("http://x/y"), (Forms{"http://x/y"}));
+  EXPECT_EQ(forms("a http://x y"), (Forms{"a", "http://xy"}));
+  EXPECT_EQ(forms("ikusi www.x orria"), (Forms{"ikusi", "www.xorria"}));
+  EXPECT_EQ(forms("HTTP://x"), (Forms{"HTTP", ":", "/", "/", "x"}));
+}
+
+TEST(Tokenizer, OtherBytesStayInsideWords) {
+  EXPECT_EQ(forms("\xABKaixo\xBB"), (Forms{"\xABKaixo\xBB"}));
+  EXPECT_EQ(forms("Kaixo\tlagun 50%"), (Forms{"Kaixo\tlagun", "50%"}));
+  // A zero byte is dropped without ending the word.
+  EXPECT_EQ(forms(std::string("ab\0cd", 5)), (Forms{"abcd"}));
+}
+
+TEST(Tokenizer, WordsAreCutAt98Bytes) {
+  std::string longword(120, 'a');
+  EXPECT_EQ(forms(longword + " b"), (Forms{std::string(98, 'a'), "b"}));
+  EXPECT_EQ(forms(longword + ",b"), (Forms{std::string(98, 'a'), ",", "b"}));
+  std::string address = "http://" + std::string(120, 'x');
+  EXPECT_EQ(forms(address + " b"), (Forms{address.substr(0, 98), "b"}));
+  EXPECT_EQ(forms(std::string(110, '%')), (Forms{std::string(98, '%')}));
+}
+
+TEST(Tokenizer, CapitalisationMark) {
+  std::vector<bool> marks;
+  for (const Tokena& t : tokens("Etxea ETXEA etxea eTXEA 123 , \xD1" "andu \xD1" "ANDU"))
+    marks.push_back(t.maiuskula);
+  EXPECT_EQ(marks, (std::vector<bool>{true, true, false, false, true, true, false, true}));
+}
+
+TEST(Tokenizer, ConstructorTrimsAndTokenisingAppends) {
+  EXPECT_EQ(Esaldia(3, "  \t testua ").testua, "testua ");
+  EXPECT_TRUE(tokens(" \t ").empty());
+  Esaldia twice(0, "bat bi");
+  twice.tokenizatu();
+  twice.tokenizatu();
+  EXPECT_EQ(twice.tokenak.size(), 4u);
+}
+
+}  // namespace
+}  // namespace tarvola
