@@ -20,6 +20,10 @@ namespace {
 
 constexpr std::size_t kMaxBroadSuggestions = 5;
 
+// The longest word the tokeniser makes. Longer input is not a misspelt
+// word, and its candidates would grow with the square of its length.
+constexpr std::size_t kMaxWordLength = 98;
+
 // Remembers each verdict, so a spelling that turns up in two levels (a
 // replacement that undoes a confusion of level 3, say) is tested once.
 class Verdicts {
@@ -43,6 +47,7 @@ class Verdicts {
 
 std::vector<std::string> Tarvola::lortu_ezzg_proposamenak(std::string hitza) {
   std::vector<std::string> found;
+  if (hitza.size() > kMaxWordLength) return found;
   Verdicts verdicts(*this);
 
   auto keep_all = [&](const std::vector<std::string>& level) {

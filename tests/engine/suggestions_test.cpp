@@ -86,6 +86,8 @@ TEST_F(Suggestions, BroadLevels) {
   EXPECT_EQ(engine_->lortu_ezzg_proposamenak("etxqa"), (Words{"etxea", "etxia"}));
   EXPECT_TRUE(engine_->lortu_ezzg_proposamenak("qqqqqqq").empty());
   EXPECT_TRUE(engine_->lortu_ezzg_proposamenak("").empty());
+  // Longer than any token: no search at all (it would grow quadratically).
+  EXPECT_TRUE(engine_->lortu_ezzg_proposamenak("etxae" + std::string(100, 'a')).empty());
 }
 
 TEST(SuggestionLimit, AtMostFiveFromTheBroadLevels) {
