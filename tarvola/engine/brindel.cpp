@@ -2,6 +2,7 @@
 // personal dictionary first, then written with the engine's own prefix
 // search, suggestion search and unknown-form generation.
 #include <sstream>
+#include <stdexcept>
 
 #include "tarvola/engine/Tarvola.h"
 #include "tarvola/output/brindel_writer.h"
@@ -15,8 +16,15 @@ std::string Tarvola::getParagrafoaBrindel(const std::string& testua, bool propos
   output::BrindelServices services;
   services.prefix_search = [this](const std::string& text) { return bilatuHasiera(text, true); };
   services.suggestions = [this](const std::string& word) { return lortu_ezzg_proposamenak(word); };
+  // A malformed "hp" table can make the generated form shorter than its
+  // class symbol; the document then keeps the replacement as it is rather
+  // than losing the whole paragraph to the cut's out-of-range error.
   services.unknown_form = [this](const std::string& lemma, const std::string& tags) {
-    return sortu_forma_ezezaguna(lemma, tags);
+    try {
+      return sortu_forma_ezezaguna(lemma, tags);
+    } catch (const std::out_of_range&) {
+      return lemma;
+    }
   };
   services.networks = &sareak_;
   services.proposamenak = proposamenak;
