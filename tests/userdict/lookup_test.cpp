@@ -55,13 +55,9 @@ TEST_F(Lookup, RecordCarriesTheEntryAndTheEnding) {
   ASSERT_EQ(result.size(), 1u);
   const Analisia& a = result[0];
   EXPECT_EQ(a.analisia, "etxe<IZE><ARR><hp1><INE><NUMS><MUGM>");
-  EXPECT_EQ(a.lema, "etxe");
-  EXPECT_EQ(a.etiketa, " IZE ARR INE NUMS MUGM");
-  EXPECT_EQ(a.sarea, "hp");
-  EXPECT_EQ(a.s_balioa, "HP");
-  EXPECT_EQ(a.h_balioa, "bat");
-  EXPECT_EQ(a.e_balioa, "bi");
-  EXPECT_EQ(a.maiuskulaMota, 0);
+  EXPECT_EQ(a.lema + "|" + a.etiketa + "|" + a.sarea + "|" + a.s_balioa + "|" + a.h_balioa + "|" +
+                a.e_balioa + "|" + std::to_string(a.maiuskulaMota),
+            "etxe| IZE ARR INE NUMS MUGM|hp|HP|bat|bi|0");
 }
 
 TEST_F(Lookup, ReadingsInKeyThenTableOrder) {
