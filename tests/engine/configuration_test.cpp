@@ -147,6 +147,11 @@ TEST(EngineConfiguration, DefaultEngineIsEmptyButSafe) {
     Paragrafoa p = engine.analizatu_paragrafoa(1, "Kaixo! Zer moduz?");
     EXPECT_EQ(p.id, 1);
     EXPECT_TRUE(p.esaldiak.empty());
+    EXPECT_FALSE(engine.isValid("etxea", true));
+    EXPECT_TRUE(engine.isValid("etxea ona", false));  // no sentence to reject
+    EXPECT_TRUE(engine.bilatuHasiera("etx", true).empty());
+    EXPECT_TRUE(engine.sortuFormak("etxe", "<ARR>").empty());
+    EXPECT_EQ(engine.getParagrafoaBrindel("etxea", true), "<p>\n</p>\n");
   }
   EXPECT_EQ(::testing::internal::GetCapturedStdout(), "Taulak husten...\n");
 }
