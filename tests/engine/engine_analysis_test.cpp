@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "support/engine_fixture.h"
+#include "support/readings.h"
 #include "support/test_files.h"
 #include "tarvola/engine/Tarvola.h"
 
@@ -12,17 +13,13 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-Strings texts(const std::vector<Analisia>& readings) {
-  Strings out;
-  for (const Analisia& a : readings) out.push_back(a.sarea + ":" + a.analisia);
-  return out;
-}
+using testing::sourced;
 
 Strings every_reading(const Paragrafoa& p) {
   Strings out;
   for (const Esaldia& e : p.esaldiak)
     for (const Tokena& t : e.tokenak)
-      for (const std::string& r : texts(t.analisiak)) out.push_back(t.forma + " " + r);
+      for (const std::string& r : sourced(t.analisiak)) out.push_back(t.forma + " " + r);
   return out;
 }
 
@@ -53,17 +50,17 @@ std::string EngineAnalysis::loaded_;
 
 TEST_F(EngineAnalysis, OneNetwork) {
   EXPECT_EQ(loaded_, "\n\n\n\n");  // one empty line per network loaded
-  EXPECT_EQ(texts(engine_->analizatuTokena("etxea", "eumorfo")),
+  EXPECT_EQ(sourced(engine_->analizatuTokena("etxea", "eumorfo")),
             (Strings{"eumorfo:etxe<IZE><ARR><ABS><NUMS><MUGM>"}));
   // The table is used as it is: no dictionary, no filtering.
-  EXPECT_EQ(texts(engine_->analizatuTokena("etxezulo", "osag0")),
+  EXPECT_EQ(sourced(engine_->analizatuTokena("etxezulo", "osag0")),
             (Strings{"osag0:etxe+zulo<IZE><ARR><Rare>"}));
   EXPECT_TRUE(engine_->analizatuTokena("Getxon", "eumorfo").empty());
   // An unknown network gives nothing and leaves the map as it was.
   EXPECT_TRUE(engine_->analizatuTokena("etxea", "ezezaguna").empty());
   // Without a name, every network in name order: capitals sort first, and
   // equal readings of two networks both stay.
-  EXPECT_EQ(texts(engine_->analizatuTokena("etxea")),
+  EXPECT_EQ(sourced(engine_->analizatuTokena("etxea")),
             (Strings{"OSVARmorfo:etxe<IZE><ARR><ABS><NUMS><MUGM>",
                      "eumorfo:etxe<IZE><ARR><ABS><NUMS><MUGM>", "osag0:etxe<IZE><ARR><ABS>"}));
   EXPECT_TRUE(engine_->analizatuTokena("xyzw").empty());

@@ -21,6 +21,13 @@ inline Strings analyses(const std::vector<Analisia>& readings) {
   return out;
 }
 
+// "network:analysis" for each reading, in order.
+inline Strings sourced(const std::vector<Analisia>& readings) {
+  Strings out;
+  for (const Analisia& a : readings) out.push_back(a.sarea + ":" + a.analisia);
+  return out;
+}
+
 // The generated surface forms, in order.
 inline Strings forms(const std::vector<Analisia>& readings) {
   Strings out;
