@@ -10,6 +10,7 @@
 
 #include "tarvola/analysis/Analisia.h"
 #include "tarvola/tables/Taula.h"
+#include "tarvola/tables/internal/taula_access.h"
 
 namespace tarvola::testing {
 
@@ -32,6 +33,17 @@ inline Strings sourced(const std::vector<Analisia>& readings) {
 inline Strings forms(const std::vector<Analisia>& readings) {
   Strings out;
   for (const Analisia& a : readings) out.push_back(a.forma);
+  return out;
+}
+
+// The bare analysis strings of a walk over the table, before they are
+// filtered into records; `reference` reads the state objects even when an
+// index exists.
+inline Strings walked(const Taula& t, const std::string& word, bool reference = false) {
+  internal::WalkResults results;
+  internal::TaulaAccess::walk(t, word, results, reference);
+  Strings out;
+  for (std::size_t i = 0; i < results.size(); ++i) out.emplace_back(results[i]);
   return out;
 }
 
