@@ -15,32 +15,27 @@ using tarvola::HiztegiPertsonala;
 using tarvola::Sarea;
 using Strings = std::vector<std::string>;
 
-// The "hp" network over the fixture endings, shared by the suite.
+// The "hp" network over the fixture endings.
 class Lookup : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    const std::string path = tarvola::testing::data_path("tables/hp_endings.txt");
-    network_ = new Sarea("hp", path, new tarvola::Taula(path));
-  }
-  static void TearDownTestSuite() { delete network_; }
-
   // A dictionary loaded from a file, as the engine makes it.
   HiztegiPertsonala loaded(const std::string& lines) {
     return HiztegiPertsonala(dir_.write("hiztegia.txt", lines));
   }
 
   // "analysis maiuskulaMota" for each reading, in order.
-  static Strings readings(const HiztegiPertsonala& hp, const std::string& token) {
+  Strings readings(const HiztegiPertsonala& hp, const std::string& token) {
     Strings out;
     for (const Analisia& a : hp.analizatu(token, network_))
       out.push_back(a.analisia + " " + std::to_string(a.maiuskulaMota));
     return out;
   }
 
-  static Sarea* network_;
+  const std::string path_ = tarvola::testing::data_path("tables/hp_endings.txt");
+  Sarea owned_{"hp", path_, new tarvola::Taula(path_)};
+  Sarea* network_ = &owned_;
   tarvola::testing::TempDir dir_;
 };
-Sarea* Lookup::network_ = nullptr;
 
 const char kWords[] =
     "etxe\t<ARR>\tbat\tbi\tHP\n"
