@@ -28,11 +28,9 @@ Strings capitals(const Taula& t, const std::string& word) {
 
 class NounsTable : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() { table_ = new Taula(testing::data_path("tables/nouns.txt")); }
-  static void TearDownTestSuite() { delete table_; }
-  static Taula* table_;
+  Taula nouns_{testing::data_path("tables/nouns.txt")};
+  Taula* table_ = &nouns_;
 };
-Taula* NounsTable::table_ = nullptr;
 
 TEST_F(NounsTable, ReadingsInFileOrder) {
   EXPECT_EQ(table_->egoerak.size(), 28u);
