@@ -46,6 +46,7 @@ TEST(TaulaGenerate, ClassTagsStopMarksAndSilentCycles) {
   EXPECT_EQ(forms(t.sortuFormak("a", "<N>", false, false)), Strings{"ab"});
   EXPECT_TRUE(t.sortuFormak("a", "<Rare>", false, false).empty());
   Taula cycle = testing::hand_table({"0 a 1", "1 _:x 2", "2 _:y 1", "final 2"}, 3);
+  cycle.egoerak[2]->final = false;  // the end arc alone, without the flag, ends a path
   EXPECT_EQ(forms(cycle.sortuFormak("a", "", false, false)), Strings{"ax"});
 }
 
