@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/engine_fixture.h"
+#include "support/readings.h"
 #include "support/test_files.h"
 #include "tarvola/engine/Tarvola.h"
 #include "tarvola/engine/network_config.h"
@@ -12,7 +12,6 @@
 namespace tarvola {
 namespace {
 
-using testing::engine_table;
 using testing::TempDir;
 
 // A table whose one word "hitz" reads as the table's own tag.
@@ -103,10 +102,7 @@ TEST(EngineConfiguration, LaterNetworkOfTheSameNameWins) {
   std::string first = dir.write("a/sare.txt", word_table("LEHEN"));
   std::string second = dir.write("b/sarePG.bin", word_table("BIGARREN"));
   Tarvola engine(dir.write("conf", first + "\n" + second + "\n"));
-  std::vector<Analisia> readings = engine.analizatuTokena("hitz");
-  ASSERT_EQ(readings.size(), 1u);
-  EXPECT_EQ(readings[0].analisia, "hitz<BIGARREN>");
-  EXPECT_EQ(readings[0].sarea, "sare");
+  EXPECT_EQ(testing::sourced(engine.analizatuTokena("hitz")), std::vector<std::string>{"sare:hitz<BIGARREN>"});
 }
 
 TEST(EngineConfiguration, ShortNetworkNameFailsConstruction) {
@@ -147,6 +143,11 @@ TEST(EngineConfiguration, DefaultEngineIsEmptyButSafe) {
     Paragrafoa p = engine.analizatu_paragrafoa(1, "Kaixo! Zer moduz?");
     EXPECT_EQ(p.id, 1);
     EXPECT_TRUE(p.esaldiak.empty());
+    EXPECT_FALSE(engine.isValid("etxea", true));
+    EXPECT_TRUE(engine.isValid("etxea ona", false));  // no sentence to reject
+    EXPECT_TRUE(engine.bilatuHasiera("etx", true).empty());
+    EXPECT_TRUE(engine.sortuFormak("etxe", "<ARR>").empty());
+    EXPECT_EQ(engine.getParagrafoaBrindel("etxea", true), "<p>\n</p>\n");
   }
   EXPECT_EQ(::testing::internal::GetCapturedStdout(), "Taulak husten...\n");
 }

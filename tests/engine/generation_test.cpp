@@ -11,11 +11,7 @@ namespace {
 
 using testing::forms;
 
-class Generation : public ::testing::Test {
- protected:
-  testing::TempDir dir_;
-  std::unique_ptr<Tarvola> engine_ = testing::make_service_engine(dir_);
-};
+using Generation = testing::ServiceTest;
 
 TEST_F(Generation, KnownLemma) {
   const std::vector<Analisia> etxe = engine_->sortuFormak("etxe", "<ARR>");

@@ -9,7 +9,10 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "support/chain_tables.h"
+#include "support/readings.h"
 #include "support/test_files.h"
 #include "tarvola/engine/Tarvola.h"
 
@@ -28,13 +31,6 @@ inline std::unique_ptr<Tarvola> make_engine(const TempDir& dir, const NetworkPat
   const std::string config_path = dir.write("sareak.txt", config);
   if (dictionary.empty()) return std::make_unique<Tarvola>(config_path);
   return std::make_unique<Tarvola>(config_path, dir.write("hiztegia.txt", dictionary));
-}
-
-// The generated surface forms, in order.
-inline std::vector<std::string> forms(const std::vector<Analisia>& readings) {
-  std::vector<std::string> out;
-  for (const Analisia& a : readings) out.push_back(a.forma);
-  return out;
 }
 
 inline const std::vector<std::string>& main_paths() {
@@ -79,6 +75,13 @@ inline NetworkPaths service_networks() {
 inline std::unique_ptr<Tarvola> make_service_engine(const TempDir& dir) {
   return make_engine(dir, service_networks(), "kuku\t<ARR>\t\t\tHP\n");
 }
+
+// A fresh service engine for each test.
+class ServiceTest : public ::testing::Test {
+ protected:
+  TempDir dir_;
+  std::unique_ptr<Tarvola> engine_ = make_service_engine(dir_);
+};
 
 }  // namespace tarvola::testing
 

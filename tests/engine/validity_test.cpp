@@ -11,11 +11,7 @@ namespace {
 
 using testing::forms;
 
-class Validity : public ::testing::Test {
- protected:
-  testing::TempDir dir_;
-  std::unique_ptr<Tarvola> engine_ = testing::make_service_engine(dir_);
-};
+using Validity = testing::ServiceTest;
 
 TEST_F(Validity, SingleWords) {
   EXPECT_TRUE(engine_->isValid("etxea", false));
@@ -79,13 +75,6 @@ TEST(ValidityWithoutNetworks, MissingNetworksGiveNoAnswerAndNoEntry) {
   EXPECT_EQ(engine->lortu_ezzg_proposamenak("lurbida"), std::vector<std::string>{"lurbide"});
   // Nothing was added to the map: a walk over it still works.
   EXPECT_EQ(engine->analizatuTokena("lurbide").size(), 1u);
-
-  Tarvola empty;
-  EXPECT_FALSE(empty.isValid("etxea", true));
-  EXPECT_TRUE(empty.isValid("etxea ona", false));  // no sentence to reject
-  EXPECT_TRUE(empty.bilatuHasiera("etx", true).empty());
-  EXPECT_TRUE(empty.sortuFormak("etxe", "<ARR>").empty());
-  EXPECT_EQ(empty.getParagrafoaBrindel("etxea", true), "<p>\n</p>\n");
 }
 
 }  // namespace

@@ -18,24 +18,15 @@
 
 namespace tarvola::testing {
 
-inline std::vector<std::string> tab_fields(const std::string& line) {
-  std::vector<std::string> fields;
-  std::size_t begin = 0;
-  for (;;) {
-    std::size_t tab = line.find('\t', begin);
-    fields.push_back(line.substr(begin, tab == std::string::npos ? std::string::npos : tab - begin));
-    if (tab == std::string::npos) return fields;
-    begin = tab + 1;
-  }
-}
-
 inline Paragrafoa parse_paragraph(const std::string& text) {
   Paragrafoa p(0, "");
   std::istringstream in(text);
   std::string line;
   while (std::getline(in, line)) {
     if (line.empty() || line[0] == '#') continue;
-    const std::vector<std::string> f = tab_fields(line);
+    std::vector<std::string> f;
+    std::istringstream fields(line);
+    for (std::string field; std::getline(fields, field, '\t');) f.push_back(field);
     if (f[0] == "p") {
       p.id = std::stoi(f.at(1));
     } else if (f[0] == "s") {

@@ -10,6 +10,7 @@
 
 #include "tarvola/tables/Taula.h"
 #include "tarvola/tables/internal/taula_access.h"
+#include "support/readings.h"
 #include "support/test_files.h"
 
 namespace tarvola {
@@ -38,14 +39,6 @@ std::string random_table(std::mt19937& rng, int states, bool acyclic) {
   return text;
 }
 
-std::vector<std::string> strings(const Taula& t, const std::string& word, bool reference) {
-  internal::WalkResults results;
-  internal::TaulaAccess::walk(t, word, results, reference);
-  std::vector<std::string> out;
-  for (std::size_t i = 0; i < results.size(); ++i) out.emplace_back(results[i]);
-  return out;
-}
-
 std::vector<std::string> generated(const Taula& t, const std::string& target, bool prefix,
                                    bool reference) {
   std::vector<std::string> out;
@@ -67,7 +60,7 @@ TEST(IndexDifferential, RandomTablesAgreeWithTheReferenceWalk) {
     Taula t(path);
     ASSERT_TRUE(internal::TaulaAccess::indexed(t));
     for (const char* w : words) {
-      ASSERT_EQ(strings(t, w, false), strings(t, w, true)) << path << " word " << w;
+      ASSERT_EQ(testing::walked(t, w, false), testing::walked(t, w, true)) << path << " word " << w;
       ++compared;
     }
     if (!acyclic) continue;

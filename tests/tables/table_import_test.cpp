@@ -8,11 +8,16 @@
 #include <string>
 #include <vector>
 
+#include "tarvola/tables/table_text.h"
+
 namespace ti = tarvola::table_import;
+using tarvola::table_text::LineKind;
 
 namespace {
 
-// Reads table text by the loader's line grammar and walks it from the
+using Strings = std::vector<std::string>;
+
+// Reads table text by the loader's own line grammar and walks it from the
 // surface side, so the tests check what lookup will see, not how the lines
 // happen to be spelt.
 struct Table {
@@ -25,28 +30,12 @@ struct Table {
 
   explicit Table(const std::string& text) {
     std::istringstream in(text);
-    std::string line;
-    while (std::getline(in, line)) {
-      if (line.size() < 5) continue;
-      if (line.rfind("final", 0) == 0) {
-        int n = std::stoi(line.substr(line.rfind("final: ", 0) == 0 ? 7 : 6));
-        at(n).push_back({-1, "", ""});
-        counted = n + 1;
-        continue;
-      }
-      auto t1 = line.find('\t'), t2 = line.find('\t', t1 + 1);
-      int src = std::stoi(line.substr(0, t1));
-      std::string field = line.substr(t1 + 1, t2 - t1 - 1);
-      EXPECT_LE(field.size(), 98u);
-      std::string up = field, lo = field;
-      auto colon = field.find(':');
-      if (colon != std::string::npos && field.size() >= 2) {
-        up = field.substr(0, colon);
-        lo = field.substr(colon + 1);
-        if (lo == "<>") lo.clear();
-      }
-      at(src).push_back({std::stoi(line.substr(t2 + 1)), up, lo});
-      counted = src + 1;
+    for (std::string line; std::getline(in, line);) {
+      const auto l = tarvola::table_text::parse_line(line);
+      EXPECT_TRUE(l.kind == LineKind::kArc || l.kind == LineKind::kFinal) << line;
+      if (l.kind == LineKind::kFinal) at(l.state).push_back({-1, "", ""});
+      if (l.kind == LineKind::kArc) at(l.state).push_back({l.target, std::string(l.upper), std::string(l.lower)});
+      counted = l.state + 1;
     }
   }
   std::vector<Arc>& at(int n) {
@@ -85,8 +74,8 @@ TEST(TableImport, AttFromFomaAnalysesTheLowerSide) {
   ASSERT_TRUE(r.ok()) << r.problems.front().message;
   Table t(r.table);
   EXPECT_EQ(as_set(t.lookup("etxe")), (std::set<std::string>{"etxe+N"}));
-  EXPECT_EQ(t.lookup("etxeak"), std::vector<std::string>{"etxe+N+Pl"});
-  EXPECT_EQ(t.lookup("+n:"), std::vector<std::string>{"+N:"});
+  EXPECT_EQ(t.lookup("etxeak"), Strings{"etxe+N+Pl"});
+  EXPECT_EQ(t.lookup("+n:"), Strings{"+N:"});
   EXPECT_EQ(r.states, 9u);
   EXPECT_EQ(r.finals, 2u);
   // States ascend and each final line follows its state's arcs, the
@@ -99,7 +88,7 @@ TEST(TableImport, SurfaceColumnCanBeChosen) {
   ti::ImportOptions opt;
   opt.surface_column = 3;
   Table t(run(kFoma, opt).table);
-  EXPECT_EQ(t.lookup("etxe+n+pl"), std::vector<std::string>{"etxeak"});
+  EXPECT_EQ(t.lookup("etxe+n+pl"), Strings{"etxeak"});
   opt.surface_column = 5;
   EXPECT_FALSE(run(kFoma, opt).ok());
 }
@@ -109,7 +98,7 @@ TEST(TableImport, HfstWeightsAndSpacesAreRead) {
   // space written as @_SPACE_@, epsilon as @0@.
   auto r = run("0\t1\tbat@_SPACE_@egin\tbat@_SPACE_@egin\t0.000000\n1\t2\t<ADI>\t@0@\t0.0\n2\t0.000000\n");
   ASSERT_TRUE(r.ok());
-  EXPECT_EQ(Table(r.table).lookup("bat egin"), std::vector<std::string>{"bat egin<ADI>"});
+  EXPECT_EQ(Table(r.table).lookup("bat egin"), Strings{"bat egin<ADI>"});
 }
 
 TEST(TableImport, LtPrintSectionsAreJoinedUnderANewStart) {
@@ -121,9 +110,9 @@ TEST(TableImport, LtPrintSectionsAreJoinedUnderANewStart) {
   auto r = run(text);
   ASSERT_TRUE(r.ok());
   Table t(r.table);
-  EXPECT_EQ(t.lookup("."), std::vector<std::string>{".<sent>"});
+  EXPECT_EQ(t.lookup("."), Strings{".<sent>"});
   // The surface is lower-cased, the analysis side keeps its case.
-  EXPECT_EQ(t.lookup("ez"), std::vector<std::string>{"ez<adv>"});
+  EXPECT_EQ(t.lookup("ez"), Strings{"ez<adv>"});
   EXPECT_TRUE(t.lookup("Ez").empty());
   EXPECT_EQ(r.table.rfind("0\t:<>\t", 0), 0u);
 }
@@ -132,10 +121,10 @@ TEST(TableImport, KeepCaseLeavesTheSurfaceAlone) {
   ti::ImportOptions opt;
   opt.keep_case = true;
   auto r = run("0\t1\tBilbo\tBilbo\n1\t2\t<LIB>\t@0@\n2\n", opt);
-  EXPECT_EQ(Table(r.table).lookup("Bilbo"), std::vector<std::string>{"Bilbo<LIB>"});
+  EXPECT_EQ(Table(r.table).lookup("Bilbo"), Strings{"Bilbo<LIB>"});
   r = run("0\t1\tBilbo\tBilbo\n0\t1\tBilbo\tbilbo\n1\t2\t<LIB>\t@0@\n2\n");
   // Both arcs become the same once lower-cased: one reading, not two.
-  EXPECT_EQ(Table(r.table).lookup("bilbo"), std::vector<std::string>{"Bilbo<LIB>"});
+  EXPECT_EQ(Table(r.table).lookup("bilbo"), Strings{"Bilbo<LIB>"});
 }
 
 TEST(TableImport, SfstPrintIsRead) {
@@ -148,8 +137,8 @@ TEST(TableImport, SfstPrintIsRead) {
   auto r = run(text, opt);
   ASSERT_TRUE(r.ok()) << r.problems.front().message;
   Table t(r.table);
-  EXPECT_EQ(t.lookup("etxeak"), std::vector<std::string>{"etxe<N><PL>"});
-  EXPECT_EQ(t.lookup("\xE4"), std::vector<std::string>{"\xE4"});  // UTF-8 a-umlaut to cp1252
+  EXPECT_EQ(t.lookup("etxeak"), Strings{"etxe<N><PL>"});
+  EXPECT_EQ(t.lookup("\xE4"), Strings{"\xE4"});  // UTF-8 a-umlaut to cp1252
   EXPECT_EQ(as_set(t.lookup(":")), (std::set<std::string>{":", "a"}));
 }
 
@@ -162,8 +151,8 @@ TEST(TableImport, TagsAreRenamedOnTheAnalysisSideOnly) {
   auto r = run("0\t1\tetxe\tetxe\n1\t2\t<n>\t@0@\n2\t3\t<sg>\t@0@\n3\t4\t<n>\t<n>\n3\n4\n", opt);
   ASSERT_TRUE(r.ok());
   Table t(r.table);
-  EXPECT_EQ(t.lookup("etxe"), std::vector<std::string>{"etxe<IZE><ARR>"});
-  EXPECT_EQ(t.lookup("etxe<n>"), std::vector<std::string>{"etxe<IZE><ARR><IZE><ARR>"});
+  EXPECT_EQ(t.lookup("etxe"), Strings{"etxe<IZE><ARR>"});
+  EXPECT_EQ(t.lookup("etxe<n>"), Strings{"etxe<IZE><ARR><IZE><ARR>"});
 }
 
 TEST(TableImport, WhatTheLineGrammarCannotCarryIsReportedWithItsLine) {
@@ -201,7 +190,7 @@ TEST(TableImport, DroppingUnrepresentableArcsKeepsTheRest) {
   ASSERT_TRUE(r.ok());
   EXPECT_EQ(r.problems.size(), 1u);
   Table t(r.table);
-  EXPECT_EQ(t.lookup("a"), std::vector<std::string>{"a"});
+  EXPECT_EQ(t.lookup("a"), Strings{"a"});
   // State 2 led nowhere once its only way in was dropped: it is gone.
   EXPECT_EQ(r.states, 2u);
 }

@@ -12,34 +12,24 @@ using table_text::LineKind;
 using table_text::parse_line;
 
 TEST(TableLine, SymbolFields) {
-  auto a = parse_line("3\ta:b\t4");
-  EXPECT_EQ(a.kind, LineKind::kArc);
-  EXPECT_EQ(a.state, 3);
-  EXPECT_EQ(a.target, 4);
-  EXPECT_EQ(a.upper, "a");
-  EXPECT_EQ(a.lower, "b");
-
-  auto tag = parse_line("1\t<IZE>:<>\t2");
-  EXPECT_EQ(tag.upper, "<IZE>");
-  EXPECT_EQ(tag.lower, "");
-  auto same = parse_line("1\tx\t2");
-  EXPECT_EQ(same.upper, "x");
-  EXPECT_EQ(same.lower, "x");
-  auto colon = parse_line("1\t:\t2");
-  EXPECT_EQ(colon.upper, ":");
-  EXPECT_EQ(colon.lower, ":");
-  auto lower_only = parse_line("1\t:a\t2");
-  EXPECT_EQ(lower_only.upper, "");
-  EXPECT_EQ(lower_only.lower, "a");
-  // "<>" on the upper side stays literal; alone it is the same on both sides.
-  auto upper_empty_tag = parse_line("1\t<>:a\t2");
-  EXPECT_EQ(upper_empty_tag.upper, "<>");
-  auto bare = parse_line("1\t<>\t2");
-  EXPECT_EQ(bare.upper, "<>");
-  EXPECT_EQ(bare.lower, "<>");
-  auto first_colon = parse_line("1\ta:b:c\t2");
-  EXPECT_EQ(first_colon.upper, "a");
-  EXPECT_EQ(first_colon.lower, "b:c");
+  struct Row {
+    const char* line;
+    const char* upper;
+    const char* lower;
+  } rows[] = {
+      {"3\ta:b\t4", "a", "b"},     {"1\t<IZE>:<>\t2", "<IZE>", ""}, {"1\tx\t2", "x", "x"},
+      {"1\t:\t2", ":", ":"},       {"1\t:a\t2", "", "a"},
+      // "<>" on the upper side stays literal; alone it is the same on both sides.
+      {"1\t<>:a\t2", "<>", "a"},   {"1\t<>\t2", "<>", "<>"},      {"1\ta:b:c\t2", "a", "b:c"},
+  };
+  for (const Row& r : rows) {
+    auto arc = parse_line(r.line);
+    EXPECT_EQ(arc.kind, LineKind::kArc) << r.line;
+    EXPECT_EQ(arc.upper, r.upper) << r.line;
+    EXPECT_EQ(arc.lower, r.lower) << r.line;
+  }
+  EXPECT_EQ(parse_line("3\ta:b\t4").state, 3);
+  EXPECT_EQ(parse_line("3\ta:b\t4").target, 4);
 }
 
 TEST(TableLine, FinalsShortAndMalformed) {
@@ -66,70 +56,50 @@ TEST(TableCount, LastCountedLineNotLargest) {
   EXPECT_EQ(table_text::count_deciphered("0\ta\t1\nfinal: 4", report), 5);  // unterminated counts
 }
 
+// The states of a text, owned by a table so that they are freed.
+Taula loaded(const std::string& text, bool deciphered = false,
+             table_text::LoadReport::Problem expected = table_text::LoadReport::kNone) {
+  Taula t;
+  auto report = deciphered ? table_text::load_deciphered(text, t.egoerak)
+                           : table_text::load_plain(text, t.egoerak);
+  EXPECT_EQ(report.problem, expected) << text.substr(0, 40);
+  return t;
+}
+
 TEST(TableLoad, FlagsFollowLastLineOfState) {
-  std::vector<Egoera*> states;
-  auto report = table_text::load_plain("0\ta\t1\nfinal: 0\n0\tb\t1\nfinal\t1\n", states);
-  ASSERT_EQ(report.problem, table_text::LoadReport::kNone);
-  ASSERT_EQ(states.size(), 2u);
-  EXPECT_FALSE(states[0]->final);  // the arc line after "final: 0" clears it
-  ASSERT_EQ(states[0]->zubiak.size(), 3u);
-  EXPECT_EQ(states[0]->zubiak[1]->hurrengoEgoera, -1);
-  EXPECT_TRUE(states[1]->final);
-  Taula owner;
-  owner.egoerak = states;
+  Taula t = loaded("0\ta\t1\nfinal: 0\n0\tb\t1\nfinal\t1\n");
+  ASSERT_EQ(t.egoerak.size(), 2u);
+  EXPECT_FALSE(t.egoerak[0]->final);  // the arc line after "final: 0" clears it
+  ASSERT_EQ(t.egoerak[0]->zubiak.size(), 3u);
+  EXPECT_EQ(t.egoerak[0]->zubiak[1]->hurrengoEgoera, -1);
+  EXPECT_TRUE(t.egoerak[1]->final);
 }
 
-TEST(TableLoad, CrLfAndOutOfRangeLines) {
-  std::vector<Egoera*> crlf;
-  table_text::load_plain("0\ta\t1\r\nfinal: 1\r\n", crlf);
-  std::vector<Egoera*> lf;
-  table_text::load_plain("0\ta\t1\nfinal: 1\n", lf);
-  ASSERT_EQ(crlf.size(), lf.size());
-  EXPECT_EQ(crlf[0]->zubiak[0]->goikoIkurra, "a");
-  EXPECT_EQ(crlf[0]->zubiak[0]->hurrengoEgoera, 1);
+TEST(TableLoad, CrLfOutOfRangeLinesAndImplausibleCounts) {
+  Taula crlf = loaded("0\ta\t1\r\nfinal: 1\r\n");
+  ASSERT_EQ(crlf.egoerak.size(), 2u);
+  EXPECT_EQ(crlf.egoerak[0]->zubiak[0]->goikoIkurra, "a");
+  EXPECT_EQ(crlf.egoerak[0]->zubiak[0]->hurrengoEgoera, 1);
   // Source states outside the counted range are skipped, not written.
-  std::vector<Egoera*> wild;
-  table_text::load_plain("7\ta\t1\n-3\ta\t1\nfinal: 1\n", wild);
-  EXPECT_EQ(wild.size(), 2u);
-  EXPECT_TRUE(wild[0]->zubiak.empty());
-  Taula a, b, c;
-  a.egoerak = crlf;
-  b.egoerak = lf;
-  c.egoerak = wild;
-}
-
-TEST(TableLoad, ImplausibleStateCountIsRefused) {
-  std::vector<Egoera*> states;
-  auto report = table_text::load_plain("final: 999999999\n", states);
-  EXPECT_EQ(report.problem, table_text::LoadReport::kTooManyStates);
-  EXPECT_TRUE(states.empty());
+  Taula wild = loaded("7\ta\t1\n-3\ta\t1\nfinal: 1\n");
+  EXPECT_EQ(wild.egoerak.size(), 2u);
+  EXPECT_TRUE(wild.egoerak[0]->zubiak.empty());
+  EXPECT_TRUE(loaded("final: 999999999\n", false, table_text::LoadReport::kTooManyStates).egoerak.empty());
 }
 
 TEST(TableLoad, DecipheredTextRules) {
-  std::vector<Egoera*> states;
-  table_text::LoadReport report = table_text::load_deciphered("0\ta\t1\nfinal: 1", states);
-  EXPECT_EQ(report.problem, table_text::LoadReport::kNone);
-  ASSERT_EQ(states.size(), 2u);
-  EXPECT_EQ(states[0]->zubiak.size(), 1u);
-  EXPECT_TRUE(states[1]->zubiak.empty());  // unterminated last line not loaded
-  std::vector<Egoera*> long_line;
-  report = table_text::load_deciphered("0\ta\t" + std::string(2300, '1') + "\n", long_line);
-  EXPECT_EQ(report.problem, table_text::LoadReport::kLineTooLong);
-  Taula a, b;
-  a.egoerak = states;
-  b.egoerak = long_line;
+  Taula t = loaded("0\ta\t1\nfinal: 1", true);
+  ASSERT_EQ(t.egoerak.size(), 2u);
+  EXPECT_EQ(t.egoerak[0]->zubiak.size(), 1u);
+  EXPECT_TRUE(t.egoerak[1]->zubiak.empty());  // unterminated last line not loaded
+  loaded("0\ta\t" + std::string(2300, '1') + "\n", true, table_text::LoadReport::kLineTooLong);
 }
 
-TEST(TableLoadDeathTest, FieldTooLongEndsTheProcess) {
+TEST(TableLoadDeathTest, LongFieldExitsWithOneAndMissingPlainFileWithZero) {
   testing::TempDir dir;
   std::string path = dir.write("long.txt", "0\t" + std::string(120, 'a') + "\t1\n");
   EXPECT_EXIT({ Taula t(path); }, ::testing::ExitedWithCode(1), "");
-}
-
-TEST(TableLoadDeathTest, MissingPlainFileExitsWithZero) {
-  testing::TempDir dir;
-  std::string path = dir.file("missing.txt");
-  EXPECT_EXIT({ Taula t(path); }, ::testing::ExitedWithCode(0), "");
+  EXPECT_EXIT({ Taula t(dir.file("missing.txt")); }, ::testing::ExitedWithCode(0), "");
 }
 
 TEST(TableLoad, MissingEncipheredFileIsSilentAndEmpty) {

@@ -45,19 +45,16 @@ TEST_F(ParagraphAnalysis, SplitsNumbersTokenisesAndAnalyses) {
   EXPECT_EQ(returned[2].tokenak.size(), p.esaldiak[2].tokenak.size());
 }
 
-TEST_F(ParagraphAnalysis, AbbreviationsFromTheMainNetwork) {
+TEST_F(ParagraphAnalysis, AbbreviationsNetworksAndRepeatedAnalysis) {
+  // Abbreviations come from the main network.
   EXPECT_EQ(sentence_texts(run("sagarrak, etab. Gero etxea. Beste")),
             (Strings{"sagarrak, etab. Gero etxea. ", "Beste"}));
-}
-
-TEST_F(ParagraphAnalysis, NothingWithoutTheMainNetwork) {
+  // Without the main network nothing at all.
   Networks others{"hp", "osag0"};
-  Paragrafoa p(1, "Kaixo! Zer moduz?");
-  EXPECT_TRUE(p.analizatu(others.map(), dictionary, true).empty());
-  EXPECT_TRUE(p.esaldiak.empty());
-}
-
-TEST_F(ParagraphAnalysis, SecondAnalysisAppendsAgain) {
+  Paragrafoa none(1, "Kaixo! Zer moduz?");
+  EXPECT_TRUE(none.analizatu(others.map(), dictionary, true).empty());
+  EXPECT_TRUE(none.esaldiak.empty());
+  // A second analysis appends again.
   Paragrafoa p(1, "Bai! Ez.");
   p.analizatu(networks.map(), dictionary, true);
   p.analizatu(networks.map(), dictionary, true);

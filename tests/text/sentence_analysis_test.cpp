@@ -12,6 +12,7 @@ namespace {
 
 using testing::Networks;
 using testing::readings_of;
+using testing::sourced;
 using testing::token_forms;
 using Strings = std::vector<std::string>;
 
@@ -48,11 +49,9 @@ TEST_F(SentenceAnalysis, MultiTokenUnitsLongestAndFirstWin) {
   e = run("zer edo zer, zer");
   EXPECT_EQ(token_forms(e), (Strings{"zer edo zer", ",", "zer"}));
   for (const Tokena& t : e.tokenak) EXPECT_EQ(t.analisiak.size(), 1u);
-}
 
-TEST_F(SentenceAnalysis, MergeMovesOnlyFormAndBlank) {
-  // The capitalisation mark stays with the slot when tokens move down.
-  Esaldia e = run("hala ere Bai kaixo");
+  // Merging moves only form and blank: the capital mark stays with the slot.
+  e = run("hala ere Bai kaixo");
   ASSERT_EQ(token_forms(e), (Strings{"hala ere", "Bai", "kaixo"}));
   EXPECT_FALSE(e.tokenak[1].maiuskula);
   EXPECT_TRUE(e.tokenak[2].maiuskula);
@@ -99,23 +98,13 @@ TEST_F(SentenceAnalysis, CompoundNetworkComesLastWithoutRareReadings) {
 
 TEST_F(SentenceAnalysis, PersonalDictionaryFirstOrLast) {
   const std::string network = "etxe<IZE><ARR><INE><NUMS><MUGM>";
-  Esaldia first = run("etxean", true);
-  ASSERT_EQ(first.tokenak.at(0).analisiak.size(), 1u);
-  EXPECT_EQ(first.tokenak[0].analisiak[0].sarea, "hp");
-  EXPECT_EQ(first.tokenak[0].analisiak[0].lema, "etxe");
-
-  Esaldia last = run("etxean", false);
-  ASSERT_EQ(last.tokenak.at(0).analisiak.size(), 2u);
-  EXPECT_EQ(last.tokenak[0].analisiak[0].analisia, network);
-  EXPECT_EQ(last.tokenak[0].analisiak[1].sarea, "hp");
-
+  const std::string personal = "hp:" + network;
+  EXPECT_EQ(sourced(run("etxean", true).tokenak.at(0).analisiak), Strings{personal});
+  EXPECT_EQ(sourced(run("etxean", false).tokenak.at(0).analisiak),
+            (Strings{"eumorfo:" + network, personal}));
   // Words only the dictionary knows, either way.
-  for (bool aukera : {true, false}) {
-    Esaldia getxon = run("Getxon", aukera);
-    ASSERT_EQ(getxon.tokenak.at(0).analisiak.size(), 1u);
-    EXPECT_EQ(getxon.tokenak[0].analisiak[0].lema, "Getxo");
-  }
-
+  for (bool aukera : {true, false})
+    EXPECT_EQ(run("Getxon", aukera).tokenak.at(0).analisiak.at(0).lema, "Getxo") << aukera;
   // Without the "hp" network, or with an empty dictionary, nothing personal.
   Networks no_hp{"eumorfo"};
   EXPECT_EQ(readings_of(analysed("etxean", no_hp.map(), dictionary).tokenak.at(0)),

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "support/engine_fixture.h"
+#include "support/readings.h"
 #include "tarvola/analysis/Sarea.h"
 #include "tarvola/tables/Taula.h"
 #include "tarvola/text/Esaldia.h"
@@ -38,11 +39,7 @@ inline std::vector<std::string> token_forms(const Esaldia& esaldia) {
   return out;
 }
 
-inline std::vector<std::string> readings_of(const Tokena& token) {
-  std::vector<std::string> out;
-  for (const Analisia& a : token.analisiak) out.push_back(a.analisia);
-  return out;
-}
+inline std::vector<std::string> readings_of(const Tokena& token) { return analyses(token.analisiak); }
 
 }  // namespace tarvola::testing
 

@@ -19,6 +19,8 @@ namespace {
 
 using tarvola::HiztegiPertsonala;
 namespace ud = tarvola::userdict;
+using tarvola::testing::read_file;
+using tarvola::testing::write_file;
 
 std::string columns(const std::optional<ud::DictionaryLine>& l) {
   if (!l) return "(none)";
@@ -62,25 +64,22 @@ TEST(DictionaryFile, LineColumns) {
 
 TEST(DictionaryFile, LoadingSkipsCommentsAndMalformedLines) {
   tarvola::testing::TempDir dir;
-  HiztegiPertsonala missing(dir.file("ez-dago.txt"));
-  EXPECT_TRUE(missing.sarrerak.empty());
-  EXPECT_EQ(missing.luzeraMin, 10000);
-  EXPECT_EQ(missing.hitzMax, 0);
+  // A missing file and one of comments only: no words, the initial bounds.
+  for (const std::string& path : {dir.file("ez-dago.txt"), dir.write("iruzkinak.txt", "// bat\n\n//bi\t<ARR>\n \n")}) {
+    HiztegiPertsonala none(path);
+    EXPECT_TRUE(none.sarrerak.empty());
+    EXPECT_EQ(none.luzeraMin, 10000);
+    EXPECT_EQ(none.hitzMax, 0);
+  }
 
-  tarvola::testing::write_file(dir.file("iruzkinak.txt"), "// bat\n\n//bi\t<ARR>\n \n");
-  HiztegiPertsonala comments(dir.file("iruzkinak.txt"));
-  EXPECT_TRUE(comments.sarrerak.empty());
-  EXPECT_EQ(comments.luzeraMin, 10000);
-
-  tarvola::testing::write_file(dir.file("h.txt"),
+  HiztegiPertsonala hp(dir.write("h.txt",
              "\netxe\tARR\t\t\tHP"      // no brackets
              "\nx\t<ARR>\t\t\tHP"       // one-byte lemma
              "\nlibururik"              // no tab
              "\nkale nagusi\t<ARR>\t\t\tHP\r"
              "\nhartu|<ADI>\ta\t\tHP"
              "\ngorri\t<ARR>\t\t\tHP"
-             "\ngorri\t<ARR>\t\t\tHP\n");
-  HiztegiPertsonala hp(dir.file("h.txt"));
+             "\ngorri\t<ARR>\t\t\tHP\n"));
   EXPECT_EQ(users(hp), (Strings{"kale nagusi <ARR>", "hartu <ADI>", "gorri <ARR>"}));
   EXPECT_EQ(keys(hp), (Strings{"gorri <IZE><ARR>", "har <ADI><ADOIN>", "hartu <ADI><PART>",
                                "hartze <ADI><ADI_IZE>", "kale nagusi <IZE><ARR>"}));
@@ -94,7 +93,7 @@ class Removal : public ::testing::Test {
  protected:
   void SetUp() override {
     path = dir.file("hiztegia.txt");
-    tarvola::testing::write_file(path,
+    write_file(path,
                "// iruzkina\n"
                "etxe\t<ARR>\tbat\tbi\tHP\n"
                "ETXE\t<ARR>\t\t\tHP\n"
@@ -124,22 +123,22 @@ TEST_F(Removal, ComparesLemmasExactlyAndCategoriesAsSubstrings) {
   hp.kendu_sarrera(false, "hutsa", "<>");
   EXPECT_EQ(users(hp), (Strings{"etxe <ARR>", "gorri <IZO>"}));
   // Without idatzi the file is untouched.
-  EXPECT_EQ(tarvola::testing::read_file(path).substr(0, 12), "// iruzkina\n");
+  EXPECT_EQ(read_file(path).substr(0, 12), "// iruzkina\n");
 }
 
 TEST_F(Removal, RewriteWritesEveryColumnAndLeavesNoTemporaryFile) {
   HiztegiPertsonala hp(path);
   hp.kendu_sarrera(true, "gorri", "<IZO>");
-  EXPECT_EQ(tarvola::testing::read_file(path),
+  EXPECT_EQ(read_file(path),
             "\netxe\t<ARR>\tbat\tbi\tHP"
             "\nETXE\t<ARR>\t\t\tHP"
             "\ngorri\t<ARR>\t\t\tHP"
             "\nhutsa\t<>\t\t\tHP\n");
   EXPECT_EQ(names_in(dir.path()), Strings{"hiztegia.txt"});
   // A word that is not there changes nothing, but the file is rewritten.
-  tarvola::testing::write_file(path, "// bakarrik iruzkina\netxe\t<ARR>\t\t\tHP\n");
+  write_file(path, "// bakarrik iruzkina\netxe\t<ARR>\t\t\tHP\n");
   hp.kendu_sarrera(true, "ez-dago", "<ARR>");
-  EXPECT_EQ(tarvola::testing::read_file(path).substr(0, 5), "\netxe");
+  EXPECT_EQ(read_file(path).substr(0, 5), "\netxe");
   // The rewritten file loads back to the same words.
   HiztegiPertsonala again(path);
   EXPECT_EQ(users(again), users(hp));
@@ -179,11 +178,11 @@ TEST_F(Removal, CopiesOwnTheirEntries) {
 TEST_F(Removal, ReadOnlyDirectoryKeepsTheOldFile) {
   if (geteuid() == 0) GTEST_SKIP() << "root writes into read-only directories";
   HiztegiPertsonala hp(path);
-  const std::string before = tarvola::testing::read_file(path);
+  const std::string before = read_file(path);
   std::filesystem::permissions(dir.path(), std::filesystem::perms::owner_read |
                                                std::filesystem::perms::owner_exec);
   hp.kendu_sarrera(true, "gorri", "<IZO>");
-  EXPECT_EQ(tarvola::testing::read_file(path), before);
+  EXPECT_EQ(read_file(path), before);
   std::filesystem::permissions(dir.path(), std::filesystem::perms::owner_all);
   EXPECT_EQ(names_in(dir.path()), Strings{"hiztegia.txt"});
 }
@@ -195,29 +194,19 @@ TEST_F(Removal, InterruptedRewriteKeepsTheOldFile) {
   HiztegiPertsonala hp(path);
   for (int i = 0; i < 2000; ++i)
     hp.gehitu_sarrera(false, "hitz" + std::to_string(i), "<ARR>", "", "", "HP");
-  const std::string before = tarvola::testing::read_file(path);
+  const std::string before = read_file(path);
   auto rewrite_with_limit = [&] {
     struct rlimit limit = {4096, 4096};
     setrlimit(RLIMIT_FSIZE, &limit);
     hp.kendu_sarrera(true, "gorri", "<IZO>");
   };
-  EXPECT_EXIT(
-      {
-        signal(SIGXFSZ, SIG_IGN);
-        rewrite_with_limit();
-        _exit(0);
-      },
-      ::testing::ExitedWithCode(0), "");
-  EXPECT_EQ(tarvola::testing::read_file(path), before);
+  EXPECT_EXIT({ signal(SIGXFSZ, SIG_IGN); rewrite_with_limit(); _exit(0); },
+              ::testing::ExitedWithCode(0), "");
+  EXPECT_EQ(read_file(path), before);
   EXPECT_EQ(names_in(dir.path()), Strings{"hiztegia.txt"});
 
-  EXPECT_EXIT(
-      {
-        rewrite_with_limit();
-        _exit(0);
-      },
-      ::testing::KilledBySignal(SIGXFSZ), "");
-  EXPECT_EQ(tarvola::testing::read_file(path), before);
+  EXPECT_EXIT({ rewrite_with_limit(); _exit(0); }, ::testing::KilledBySignal(SIGXFSZ), "");
+  EXPECT_EQ(read_file(path), before);
 }
 
 TEST_F(Removal, RewriteThroughASymbolicLinkKeepsTheLink) {
@@ -226,7 +215,7 @@ TEST_F(Removal, RewriteThroughASymbolicLinkKeepsTheLink) {
   HiztegiPertsonala hp(link);
   hp.kendu_sarrera(true, "gorri", "<IZO>");
   EXPECT_TRUE(std::filesystem::is_symlink(link));
-  EXPECT_EQ(tarvola::testing::read_file(path).substr(0, 5), "\netxe");
+  EXPECT_EQ(read_file(path).substr(0, 5), "\netxe");
 }
 #endif
 

@@ -21,12 +21,6 @@ std::vector<std::string> paradigms(const HiztegiPertsonala& hp) {
   return out;
 }
 
-std::vector<std::string> paradigms_of(const std::string& lemma, const std::string& category) {
-  HiztegiPertsonala hp;
-  hp.gehitu_sarrera(false, lemma, category, "", "", "HP");
-  return paradigms(hp);
-}
-
 using Rows = std::vector<std::string>;
 
 TEST(Entries, UserEntryAndDuplicate) {
@@ -47,63 +41,56 @@ TEST(Entries, UserEntryAndDuplicate) {
   EXPECT_EQ(hp.paradigmak.size(), 1u);
 }
 
-TEST(Entries, CommonNounsAndAdjectives) {
-  EXPECT_EQ(paradigms_of("Alaba", "<ARR>"),
-            (Rows{"alab: alaba <IZE><ARR> alab <hp2>", "alaba: alaba <IZE><ARR> alaba <hp3>"}));
-  EXPECT_EQ(paradigms_of("UR", "<ARR>"),
-            (Rows{"ur: ur <IZE><ARR> ur <hp6>", "urr: ur <IZE><ARR> urr <hp5>"}));
-  EXPECT_EQ(paradigms_of("lan", "<ARR>"), Rows{"lan: lan <IZE><ARR> lan <hp4>"});
-  // The adjective's <hp7> row always shares the key of the row before it.
-  EXPECT_EQ(paradigms_of("handi", "<IZO>"), Rows{"handi: handi <ADJ><IZO> handi <hp1>"});
-  EXPECT_EQ(paradigms_of("zahar", "<IZO>"),
-            (Rows{"zahar: zahar <ADJ><IZO> zahar <hp6>", "zaharr: zahar <ADJ><IZO> zaharr <hp5>"}));
-  EXPECT_EQ(paradigms_of("polita", "<IZO>"),
-            (Rows{"polit: polita <ADJ><IZO> polit <hp2>", "polita: polita <ADJ><IZO> polita <hp3>"}));
-  EXPECT_EQ(paradigms_of("\xC1URRE", "<ARR>"), Rows{"\xE1urre: \xE1urre <IZE><ARR> \xE1urre <hp1>"});
-}
-
-TEST(Entries, FirstEntryUnderAKeyWins) {
+// One row per paradigm rule: the paradigm rows of one entry, "; "-joined.
+TEST(Entries, ParadigmClasses) {
+  struct Row {
+    const char* lemma;
+    const char* category;
+    const char* rows;
+  } rows[] = {
+      {"Alaba", "<ARR>", "alab: alaba <IZE><ARR> alab <hp2>; alaba: alaba <IZE><ARR> alaba <hp3>"},
+      {"UR", "<ARR>", "ur: ur <IZE><ARR> ur <hp6>; urr: ur <IZE><ARR> urr <hp5>"},
+      {"lan", "<ARR>", "lan: lan <IZE><ARR> lan <hp4>"},
+      {"\xC1URRE", "<ARR>", "\xE1urre: \xE1urre <IZE><ARR> \xE1urre <hp1>"},
+      // The adjective's <hp7> row always shares the key of the row before it.
+      {"handi", "<IZO>", "handi: handi <ADJ><IZO> handi <hp1>"},
+      {"zahar", "<IZO>", "zahar: zahar <ADJ><IZO> zahar <hp6>; zaharr: zahar <ADJ><IZO> zaharr <hp5>"},
+      {"polita", "<IZO>", "polit: polita <ADJ><IZO> polit <hp2>; polita: polita <ADJ><IZO> polita <hp3>"},
+      {"egin", "<ADI>", "egin: egin <ADI><PART> egin <hp22>; egite: egin <ADI><ADI_IZE> egite <hp20>"},
+      {"hartu", "<ADI>", "har: hartu <ADI><ADOIN> har <hp24>; hartu: hartu <ADI><PART> hartu <hp21>; "
+                         "hartze: hartu <ADI><ADI_IZE> hartze <hp20>"},
+      {"hil", "<ADI>", "hil: hil <ADI><PART> hil <hp23>; hiltze: hil <ADI><ADI_IZE> hiltze <hp20>"},
+      // Only a lower-case n or l chooses the participle class.
+      {"EGIN", "<ADI>", "egin: egin <ADI><PART> egin <hp21>; egite: egin <ADI><ADI_IZE> egite <hp20>"},
+      // An empty stem is stored under the empty key.
+      {"tu", "<ADI>", ": tu <ADI><ADOIN>  <hp24>; tu: tu <ADI><PART> tu <hp21>; tze: tu <ADI><ADI_IZE> tze <hp20>"},
+      // Proper nouns keep their case.
+      {"Bilbo", "<LIB>", "bilbo: Bilbo <IZE><LIB> Bilbo <hp12>"},
+      {"Aretz", "<LIB>", "aretz: Aretz <IZE><LIB> Aretz <hp19>; arez: Aretz <IZE><LIB> Arez <hp18>"},
+      {"Getxo", "<LIB>", "getxo: Getxo <IZE><LIB> Getxo <hp12>"},
+      {"Irun", "<LIB>", "irun: Irun <IZE><LIB> Irun <hp25>"},
+      {"Oier", "<LIB>", "oier: Oier <IZE><LIB> Oier <hp14>; oierr: Oier <IZE><LIB> Oierr <hp15>"},
+      {"Luis", "<LIB>", "luis: Luis <IZE><LIB> Luis <hp13>"},
+      {"ARETZ", "<LIB>", "aretz: ARETZ <IZE><LIB> ARETZ <hp13>"},
+      {"Ane", "<PIB>", "ane: Ane <IZE><PIB> Ane <hp8>"},
+      {"Peter", "<PIB>", "peter: Peter <IZE><PIB> Peter <hp10>; peterr: Peter <IZE><PIB> Peterr <hp11>"},
+      {"Jon", "<PIB>", "jon: Jon <IZE><PIB> Jon <hp9>"},
+      {"Eroski", "<IZB>", "eroski: Eroski <IZE><IZB> Eroski <hp16>"},
+      {"Kutxabank", "<IZB>", "kutxabank: Kutxabank <IZE><IZB> Kutxabank <hp17>"},
+  };
+  for (const Row& r : rows) {
+    HiztegiPertsonala hp;
+    hp.gehitu_sarrera(false, r.lemma, r.category, "", "", "HP");
+    std::string got;
+    for (const std::string& row : paradigms(hp)) got += (got.empty() ? "" : "; ") + row;
+    EXPECT_EQ(got, r.rows) << r.lemma;
+  }
+  // The first entry under a key wins.
   HiztegiPertsonala hp;
   hp.gehitu_sarrera(false, "gorri", "<ARR>", "", "", "HP");
   hp.gehitu_sarrera(false, "gorri", "<IZO>", "", "", "HP");
   EXPECT_EQ(hp.sarrerak.size(), 2u);
   EXPECT_EQ(paradigms(hp), Rows{"gorri: gorri <IZE><ARR> gorri <hp1>"});
-}
-
-TEST(Entries, Verbs) {
-  EXPECT_EQ(paradigms_of("egin", "<ADI>"),
-            (Rows{"egin: egin <ADI><PART> egin <hp22>", "egite: egin <ADI><ADI_IZE> egite <hp20>"}));
-  EXPECT_EQ(paradigms_of("hartu", "<ADI>"),
-            (Rows{"har: hartu <ADI><ADOIN> har <hp24>", "hartu: hartu <ADI><PART> hartu <hp21>",
-                  "hartze: hartu <ADI><ADI_IZE> hartze <hp20>"}));
-  EXPECT_EQ(paradigms_of("hil", "<ADI>"),
-            (Rows{"hil: hil <ADI><PART> hil <hp23>", "hiltze: hil <ADI><ADI_IZE> hiltze <hp20>"}));
-  // Only a lower-case n or l chooses the participle class.
-  EXPECT_EQ(paradigms_of("EGIN", "<ADI>"),
-            (Rows{"egin: egin <ADI><PART> egin <hp21>", "egite: egin <ADI><ADI_IZE> egite <hp20>"}));
-  // An empty stem is stored under the empty key.
-  EXPECT_EQ(paradigms_of("tu", "<ADI>"),
-            (Rows{": tu <ADI><ADOIN>  <hp24>", "tu: tu <ADI><PART> tu <hp21>",
-                  "tze: tu <ADI><ADI_IZE> tze <hp20>"}));
-}
-
-TEST(Entries, ProperNounsKeepTheirCase) {
-  EXPECT_EQ(paradigms_of("Bilbo", "<LIB>"), Rows{"bilbo: Bilbo <IZE><LIB> Bilbo <hp12>"});
-  EXPECT_EQ(paradigms_of("Aretz", "<LIB>"),
-            (Rows{"aretz: Aretz <IZE><LIB> Aretz <hp19>", "arez: Aretz <IZE><LIB> Arez <hp18>"}));
-  EXPECT_EQ(paradigms_of("Getxo", "<LIB>"), Rows{"getxo: Getxo <IZE><LIB> Getxo <hp12>"});
-  EXPECT_EQ(paradigms_of("Irun", "<LIB>"), Rows{"irun: Irun <IZE><LIB> Irun <hp25>"});
-  EXPECT_EQ(paradigms_of("Oier", "<LIB>"),
-            (Rows{"oier: Oier <IZE><LIB> Oier <hp14>", "oierr: Oier <IZE><LIB> Oierr <hp15>"}));
-  EXPECT_EQ(paradigms_of("Luis", "<LIB>"), Rows{"luis: Luis <IZE><LIB> Luis <hp13>"});
-  EXPECT_EQ(paradigms_of("ARETZ", "<LIB>"), Rows{"aretz: ARETZ <IZE><LIB> ARETZ <hp13>"});
-  EXPECT_EQ(paradigms_of("Ane", "<PIB>"), Rows{"ane: Ane <IZE><PIB> Ane <hp8>"});
-  EXPECT_EQ(paradigms_of("Peter", "<PIB>"),
-            (Rows{"peter: Peter <IZE><PIB> Peter <hp10>", "peterr: Peter <IZE><PIB> Peterr <hp11>"}));
-  EXPECT_EQ(paradigms_of("Jon", "<PIB>"), Rows{"jon: Jon <IZE><PIB> Jon <hp9>"});
-  EXPECT_EQ(paradigms_of("Eroski", "<IZB>"), Rows{"eroski: Eroski <IZE><IZB> Eroski <hp16>"});
-  EXPECT_EQ(paradigms_of("Kutxabank", "<IZB>"),
-            Rows{"kutxabank: Kutxabank <IZE><IZB> Kutxabank <hp17>"});
 }
 
 TEST(Entries, UnknownCategoriesGiveNoParadigm) {

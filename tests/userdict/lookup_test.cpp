@@ -15,32 +15,27 @@ using tarvola::HiztegiPertsonala;
 using tarvola::Sarea;
 using Strings = std::vector<std::string>;
 
-// The "hp" network over the fixture endings, shared by the suite.
+// The "hp" network over the fixture endings.
 class Lookup : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    const std::string path = tarvola::testing::data_path("tables/hp_endings.txt");
-    network_ = new Sarea("hp", path, new tarvola::Taula(path));
-  }
-  static void TearDownTestSuite() { delete network_; }
-
   // A dictionary loaded from a file, as the engine makes it.
   HiztegiPertsonala loaded(const std::string& lines) {
     return HiztegiPertsonala(dir_.write("hiztegia.txt", lines));
   }
 
   // "analysis maiuskulaMota" for each reading, in order.
-  static Strings readings(const HiztegiPertsonala& hp, const std::string& token) {
+  Strings readings(const HiztegiPertsonala& hp, const std::string& token) {
     Strings out;
     for (const Analisia& a : hp.analizatu(token, network_))
       out.push_back(a.analisia + " " + std::to_string(a.maiuskulaMota));
     return out;
   }
 
-  static Sarea* network_;
+  const std::string path_ = tarvola::testing::data_path("tables/hp_endings.txt");
+  Sarea owned_{"hp", path_, new tarvola::Taula(path_)};
+  Sarea* network_ = &owned_;
   tarvola::testing::TempDir dir_;
 };
-Sarea* Lookup::network_ = nullptr;
 
 const char kWords[] =
     "etxe\t<ARR>\tbat\tbi\tHP\n"
@@ -55,13 +50,9 @@ TEST_F(Lookup, RecordCarriesTheEntryAndTheEnding) {
   ASSERT_EQ(result.size(), 1u);
   const Analisia& a = result[0];
   EXPECT_EQ(a.analisia, "etxe<IZE><ARR><hp1><INE><NUMS><MUGM>");
-  EXPECT_EQ(a.lema, "etxe");
-  EXPECT_EQ(a.etiketa, " IZE ARR INE NUMS MUGM");
-  EXPECT_EQ(a.sarea, "hp");
-  EXPECT_EQ(a.s_balioa, "HP");
-  EXPECT_EQ(a.h_balioa, "bat");
-  EXPECT_EQ(a.e_balioa, "bi");
-  EXPECT_EQ(a.maiuskulaMota, 0);
+  EXPECT_EQ(a.lema + "|" + a.etiketa + "|" + a.sarea + "|" + a.s_balioa + "|" + a.h_balioa + "|" +
+                a.e_balioa + "|" + std::to_string(a.maiuskulaMota),
+            "etxe| IZE ARR INE NUMS MUGM|hp|HP|bat|bi|0");
 }
 
 TEST_F(Lookup, ReadingsInKeyThenTableOrder) {
