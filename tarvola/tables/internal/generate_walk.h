@@ -30,7 +30,7 @@ namespace tarvola::internal {
 
 inline constexpr std::size_t kMaxTarget = 999;
 inline constexpr std::size_t kMaxArea = 9999;
-inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 22;
+inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 19;  // see kMaxSteps
 
 // Copies the lemma's capitals onto the surface form, position by position,
 // up to the first tag of the upper side.
