@@ -38,5 +38,22 @@ TEST(HostileTable, ExponentialPathsEndWithinTheBudget) {
   }
 }
 
+TEST(HostileTable, ALongSpellingRoundACycleIsCappedInTotal) {
+  // Every round of the cycle 1 -> 2 -> 1 spells eight more bytes and ends at
+  // a final state: about 1,200 readings of up to 10,000 bytes each, 6 MB in
+  // all, each to be parsed. The walk keeps the first megabyte or so.
+  testing::TempDir dir;
+  const Taula table(dir.write("cycle.txt",
+                              "0\tetxe\t1\n1\t<IZE>:<>\t2\nfinal: 2\n2\t<A>:a\t1\n"));
+  std::vector<Analisia> found = table.sortuFormak("etxe", "<IZE>", false, false);
+  ASSERT_FALSE(found.empty());
+  EXPECT_EQ(found[0].analisia, "etxe<IZE>");
+  EXPECT_EQ(found[0].forma, "etxe");
+  std::size_t total = 0;
+  for (const Analisia& a : found) total += a.analisia.size() + a.forma.size();
+  EXPECT_LT(total, std::size_t{1100} * 1000);
+  EXPECT_LT(found.size(), 1000u);
+}
+
 }  // namespace
 }  // namespace tarvola

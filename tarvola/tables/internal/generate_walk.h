@@ -13,7 +13,8 @@
 // Limits that keep every table finite: both areas stay under 10000 bytes,
 // a state is not re-entered on one path while the upper side has not grown
 // (a cycle that spells nothing), and one generation stops after
-// kMaxGenerateSteps steps or kMaxResults results.
+// kMaxGenerateSteps steps, kMaxResults results or kMaxResultBytes of
+// emitted text.
 #ifndef TARVOLA_TABLES_INTERNAL_GENERATE_WALK_H
 #define TARVOLA_TABLES_INTERNAL_GENERATE_WALK_H
 
@@ -30,7 +31,7 @@ namespace tarvola::internal {
 
 inline constexpr std::size_t kMaxTarget = 999;
 inline constexpr std::size_t kMaxArea = 9999;
-inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 19;  // see kMaxSteps
+inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 18;  // see kMaxSteps
 
 // Copies the lemma's capitals onto the surface form, position by position,
 // up to the first tag of the upper side.
@@ -131,7 +132,8 @@ class GenerateWalk {
     copy_capitals(upper_, surface_);
     results_.emplace_back(upper_, network_);
     results_.back().forma = surface_;
-    if (results_.size() >= kMaxResults) stopped_ = true;
+    emitted_bytes_ += upper_.size() + surface_.size();
+    if (results_.size() >= kMaxResults || emitted_bytes_ >= kMaxResultBytes) stopped_ = true;
   }
 
   const Source& source_;
@@ -143,6 +145,7 @@ class GenerateWalk {
   std::string surface_;
   std::vector<PathEntry> path_;
   std::uint64_t steps_ = 0;
+  std::size_t emitted_bytes_ = 0;
   bool target_eli_ = false;
   bool target_psp_ = false;
   bool stopped_ = false;

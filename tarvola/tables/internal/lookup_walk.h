@@ -10,7 +10,8 @@
 // last state are skipped; an epsilon cycle is not followed round (a state is
 // not re-entered at the same input position on one path); the output stays
 // under 1000 bytes (an arc that would overflow it is not taken); and one
-// lookup stops after kMaxSteps arc steps or kMaxResults results.
+// lookup stops after kMaxSteps arc steps, kMaxResults results or
+// kMaxResultBytes of result text.
 //
 // All search state lives in the walk object, on the caller's stack: a
 // table is only read, so lookups on one table may run in parallel.
@@ -38,6 +39,10 @@ inline constexpr unsigned kMaxDepth = 4000;
 // the Basque test corpus, so real tables stay far below them.
 inline constexpr std::uint64_t kMaxSteps = std::uint64_t{1} << 18;
 inline constexpr std::size_t kMaxResults = std::size_t{1} << 16;
+// Results are also capped by their total text, since each becomes a parsed
+// reading: a table can emit the same long spelling round a cycle thousands
+// of times. Real readings are well under 100 bytes each.
+inline constexpr std::size_t kMaxResultBytes = std::size_t{1} << 20;
 
 // The accepted analysis strings of one lookup, packed in one buffer.
 struct WalkResults {
@@ -156,7 +161,7 @@ class LookupWalk {
   void accept() {
     results_.text.append(output_.view());
     results_.ends.push_back(static_cast<std::uint32_t>(results_.text.size()));
-    if (results_.size() >= kMaxResults) stopped_ = true;
+    if (results_.size() >= kMaxResults || results_.text.size() >= kMaxResultBytes) stopped_ = true;
   }
 
   const Source& source_;
