@@ -100,7 +100,9 @@ inline void free_states(std::vector<Egoera*>& states) {
 
 // Takes the loaded states into a table, indexes it and runs fixed lookups
 // and generations: the indexed walk must give what the walk over the state
-// objects gives, and every reading must come out whole.
+// objects gives, and every reading must come out whole. Few words, so that
+// a table that drives every walk to its step budget still takes well under
+// a second under the sanitizers.
 inline void exercise_table(std::vector<Egoera*>&& states) {
   Taula table;
   table.egoerak = std::move(states);
@@ -108,7 +110,7 @@ inline void exercise_table(std::vector<Egoera*>&& states) {
   if (!table_tags_fit(table.egoerak)) return;  // the table's owner would end the process
   internal::TaulaAccess::reindex(table);
 
-  static const char* const kWords[] = {"etxea", "Etxean", "ETXEA", "", "gizon\xf1a"};
+  static const char* const kWords[] = {"etxea", "ETXEA", "gizon\361a"};
   for (const char* word : kWords) {
     internal::WalkResults indexed, reference;
     internal::TaulaAccess::walk(table, word, indexed, false);
@@ -125,8 +127,7 @@ inline void exercise_table(std::vector<Egoera*>&& states) {
     bool prefix;
   };
   static const Target kTargets[] = {{"etxe", "<IZE><ARR><ABS><NUMS><MUGM>", false},
-                                    {"etxe", "<IZE>", true},
-                                    {"ba", "<AUR><>", false}};
+                                    {"ba", "<AUR><IZE>", true}};
   for (const Target& t : kTargets) {
     for (const Analisia& a : table.sortuFormak(t.lemma, t.tags, t.prefix, false))
       if (a.sarea != "fuzz") fail("generated reading without its network");

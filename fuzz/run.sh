@@ -5,6 +5,7 @@
 #   CORPUS_DIR the shared Basque text folder used to seed the paragraph
 #              harness (default ../shared/corpus; skipped when missing)
 #   MERGE=1    minimise what was found back into fuzz/corpus/<harness>/
+#   NO_BUILD=1 run what is already built (for running harnesses side by side)
 # Exits non-zero when a harness finds a crash, a leak or an input that
 # takes more than one second; the input is left in BUILD_DIR/fuzz-findings.
 set -eu
@@ -15,12 +16,14 @@ build=${BUILD_DIR:-$root/build-fuzz}
 corpus_text=${CORPUS_DIR:-$root/../shared/corpus}
 harnesses=${*:-table_text enciphered_table dictionary paragraph}
 
-cmake -S "$root" -B "$build" -DCMAKE_CXX_COMPILER="${CXX:-clang++-14}" \
-  -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTARVOLA_BUILD_FUZZ=ON -DTARVOLA_BUILD_EXAMPLES=OFF >/dev/null
-targets=""
-for h in $harnesses; do targets="$targets ${h}_fuzz"; done
-# shellcheck disable=SC2086
-cmake --build "$build" -j2 --target $targets
+if [ "${NO_BUILD:-0}" != 1 ]; then
+  cmake -S "$root" -B "$build" -DCMAKE_CXX_COMPILER="${CXX:-clang++-14}" \
+    -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTARVOLA_BUILD_FUZZ=ON -DTARVOLA_BUILD_EXAMPLES=OFF >/dev/null
+  targets=""
+  for h in $harnesses; do targets="$targets ${h}_fuzz"; done
+  # shellcheck disable=SC2086
+  cmake --build "$build" -j2 --target $targets
+fi
 
 status=0
 for h in $harnesses; do
