@@ -55,5 +55,25 @@ TEST(HostileTable, ALongSpellingRoundACycleIsCappedInTotal) {
   EXPECT_LT(found.size(), 1000u);
 }
 
+TEST(HostileTable, ReadingsOfOneWordAreCapped) {
+  // 16 stages of two spellings each: 65,536 readings of "etxea", each of
+  // which would be parsed into a record.
+  std::string text = "0\tetxe<IZE>:etxea\t1\n";
+  for (int s = 1; s <= 16; ++s) {
+    const std::string next = std::to_string(s + 1);
+    text += std::to_string(s) + "\t<A>:<>\t" + next + "\n" + std::to_string(s) + "\t<B>:<>\t" + next + "\n";
+  }
+  text += "final: 17\n";
+  testing::TempDir dir;
+  const Taula table(dir.write("many.txt", text));
+  std::vector<Analisia> found = table.analizatuTokena("etxea");
+  ASSERT_FALSE(found.empty());
+  std::string first = "etxe<IZE>";
+  for (int s = 1; s <= 16; ++s) first += "<A>";
+  EXPECT_EQ(found[0].analisia, first);
+  EXPECT_LE(found.size(), 4096u);
+  EXPECT_LE(table.sortuFormak("etxe", "<IZE>", false, false).size(), 8192u);
+}
+
 }  // namespace
 }  // namespace tarvola

@@ -13,8 +13,8 @@
 // Limits that keep every table finite: both areas stay under 10000 bytes,
 // a state is not re-entered on one path while the upper side has not grown
 // (a cycle that spells nothing), and one generation stops after
-// kMaxGenerateSteps steps, kMaxResults results or kMaxResultBytes of
-// emitted text.
+// kMaxGenerateSteps steps, kMaxGenerateResults results or kMaxResultBytes
+// of emitted text.
 #ifndef TARVOLA_TABLES_INTERNAL_GENERATE_WALK_H
 #define TARVOLA_TABLES_INTERNAL_GENERATE_WALK_H
 
@@ -32,6 +32,9 @@ namespace tarvola::internal {
 inline constexpr std::size_t kMaxTarget = 999;
 inline constexpr std::size_t kMaxArea = 9999;
 inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 18;  // see kMaxSteps
+// A real generation gives at most about 1,600 forms (a subordinating prefix
+// before an auxiliary verb); see kMaxResults.
+inline constexpr std::size_t kMaxGenerateResults = std::size_t{1} << 13;
 
 // Copies the lemma's capitals onto the surface form, position by position,
 // up to the first tag of the upper side.
@@ -133,7 +136,8 @@ class GenerateWalk {
     results_.emplace_back(upper_, network_);
     results_.back().forma = surface_;
     emitted_bytes_ += upper_.size() + surface_.size();
-    if (results_.size() >= kMaxResults || emitted_bytes_ >= kMaxResultBytes) stopped_ = true;
+    if (results_.size() >= kMaxGenerateResults || emitted_bytes_ >= kMaxResultBytes)
+      stopped_ = true;
   }
 
   const Source& source_;

@@ -38,10 +38,12 @@ inline constexpr unsigned kMaxDepth = 4000;
 // about 1,100 steps for a lookup and 14,000 for a generation of any word of
 // the Basque test corpus, so real tables stay far below them.
 inline constexpr std::uint64_t kMaxSteps = std::uint64_t{1} << 18;
-inline constexpr std::size_t kMaxResults = std::size_t{1} << 16;
-// Results are also capped by their total text, since each becomes a parsed
-// reading: a table can emit the same long spelling round a cycle thousands
-// of times. Real readings are well under 100 bytes each.
+// Every result becomes a parsed reading (a few microseconds each), so the
+// number of results is capped too: real words have at most about ten
+// readings. Results are also capped by their total text, since a table can
+// emit the same long spelling round a cycle thousands of times; real
+// readings are well under 100 bytes each.
+inline constexpr std::size_t kMaxResults = std::size_t{1} << 12;
 inline constexpr std::size_t kMaxResultBytes = std::size_t{1} << 20;
 
 // The accepted analysis strings of one lookup, packed in one buffer.
