@@ -38,6 +38,25 @@ TEST(HostileTable, ExponentialPathsEndWithinTheBudget) {
   }
 }
 
+TEST(HostileTable, LongEpsilonChainsWithArcsBackEnd) {
+  // 3,000 states joined by epsilon arcs, each with twenty epsilon arcs back
+  // into the chain: every arc back is refused by the cycle check, which has
+  // to look along the whole path so far. The budget counts that work too.
+  std::string text;
+  for (int s = 0; s < 3000; ++s) {
+    text += std::to_string(s) + "\t<>\t" + std::to_string(s + 1) + "\n";
+    for (int back = 0; back < 20; ++back)
+      text += std::to_string(s) + "\t<>\t" + std::to_string(back * s / 20) + "\n";
+  }
+  text += "3000\tz\t3001\n";
+  testing::TempDir dir;
+  const Taula table(dir.write("chain.txt", text));
+  for (int i = 0; i < 10; ++i) {
+    EXPECT_TRUE(table.analizatuTokena("z").empty());
+    EXPECT_TRUE(table.sortuFormak("z", "<IZE>", true, false).empty());
+  }
+}
+
 TEST(HostileTable, ALongSpellingRoundACycleIsCappedInTotal) {
   // Every round of the cycle 1 -> 2 -> 1 spells eight more bytes and ends at
   // a final state: about 1,200 readings of up to 10,000 bytes each, 6 MB in

@@ -31,7 +31,7 @@ namespace tarvola::internal {
 
 inline constexpr std::size_t kMaxTarget = 999;
 inline constexpr std::size_t kMaxArea = 9999;
-inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 18;  // see kMaxSteps
+inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 19;  // see kMaxSteps
 // A real generation gives at most about 1,600 forms (a subordinating prefix
 // before an auxiliary verb); see kMaxResults.
 inline constexpr std::size_t kMaxGenerateResults = std::size_t{1} << 13;
@@ -91,7 +91,7 @@ class GenerateWalk {
     const std::size_t upper_mark = upper_.size();
     const std::size_t surface_mark = surface_.size();
     if (!agrees_after(upper, upper_mark)) return;
-    if (upper.empty() && target >= 0 && on_path(target, upper_mark)) return;
+    if (upper.empty() && target >= 0 && (on_path(target, upper_mark) || stopped_)) return;
     upper_.append(upper);
     surface_.append(lower);
     path_.push_back({target, upper_.size()});
@@ -125,9 +125,12 @@ class GenerateWalk {
     return f;
   }
 
-  bool on_path(int state, std::size_t upper_length) const {
-    for (auto it = path_.rbegin(); it != path_.rend() && it->upper_length == upper_length; ++it)
+  // Counts the entries it looks at as steps, as the lookup walk does.
+  bool on_path(int state, std::size_t upper_length) {
+    for (auto it = path_.rbegin(); it != path_.rend() && it->upper_length == upper_length; ++it) {
+      if (++steps_ > kMaxGenerateSteps) stopped_ = true;
       if (it->state == state) return true;
+    }
     return false;
   }
 
