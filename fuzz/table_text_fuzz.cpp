@@ -19,6 +19,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     tarvola::fuzz::free_states(states);
     return 0;
   }
-  tarvola::fuzz::exercise_table(std::move(states));
+  tarvola::fuzz::exercise_table(std::move(states), size);
   return 0;
 }

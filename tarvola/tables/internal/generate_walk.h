@@ -31,7 +31,7 @@ namespace tarvola::internal {
 
 inline constexpr std::size_t kMaxTarget = 999;
 inline constexpr std::size_t kMaxArea = 9999;
-inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 19;  // see kMaxSteps
+inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 18;  // see kMaxSteps
 // A real generation gives at most about 1,600 forms (a subordinating prefix
 // before an auxiliary verb); see kMaxResults.
 inline constexpr std::size_t kMaxGenerateResults = std::size_t{1} << 13;
