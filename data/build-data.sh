@@ -19,6 +19,7 @@
 set -eu
 
 HERE=$(cd "$(dirname "$0")" && pwd)
+. "$HERE/eumorfo/rules.sh"
 OUT=""
 UPDATE=0
 for arg in "$@"; do
@@ -98,18 +99,14 @@ if have_tools; then
   hfst-txt2fst -o "$WORK/apertium.hfst" "$WORK/apertium.att"
   # Case and number rewrites composed onto the analysis side, then the
   # project's punctuation and abbreviations united with the result.
-  grep -v '^#' "$HERE/eumorfo/cases.regexp" |
-    awk 'NF { printf "%s%s", (n++ ? " .o. " : ""), $0 } END { print " ;" }' > "$WORK/cases.txt"
-  hfst-regexp2fst -i "$WORK/cases.txt" -o "$WORK/cases.hfst"
-  grep -v '^#' "$HERE/eumorfo/extra.regexp" |
-    awk 'NF { printf "%s%s", (n++ ? " | " : ""), $0 } END { print " ;" }' > "$WORK/extra.txt"
-  hfst-regexp2fst -i "$WORK/extra.txt" -o "$WORK/extra.hfst"
+  compile_rules "$HERE/eumorfo/cases.regexp" " .o. " "$WORK/cases.hfst"
+  compile_rules "$HERE/eumorfo/extra.regexp" " | " "$WORK/extra.hfst"
   hfst-compose -1 "$WORK/apertium.hfst" -2 "$WORK/cases.hfst" -o "$WORK/cased.hfst"
   hfst-disjunct -1 "$WORK/cased.hfst" -2 "$WORK/extra.hfst" -o "$WORK/eumorfo.hfst"
   hfst-fst2txt "$WORK/eumorfo.hfst" > "$WORK/eumorfo.att"
   "$IMPORTER" --surface-column 3 --tags "$HERE/eumorfo/tags.map" "$WORK/eumorfo.att" "$OUT/eumorfoPG.txt" \
-    2>>"$WORK/import.log"
-  echo "build-data: main network converted from $AUTOMORF" >&2
+    2>"$WORK/eumorfo.log" || { cat "$WORK/eumorfo.log" >&2; exit 1; }
+  echo "build-data: main network converted from $AUTOMORF: $(sed -n '$s/.*: //p' "$WORK/eumorfo.log")" >&2
 else
   cp "$HERE/demo/eumorfoPG.txt" "$OUT/eumorfoPG.txt"
   echo "build-data: WARNING: Apertium's Basque data or the toolkits (lttoolbox, hfst, sfst) could not be had;" >&2

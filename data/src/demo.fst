@@ -45,8 +45,8 @@ $FUNC$ = eta<LOT>:<><LOK>:<> | edo<LOT>:<><LOK>:<> | baina<LOT>:<><LOK>:<> | \
   nola<ADB>:<><GAL>:<> | \
   {izan}:{da}<ADT>:<><PRI>:<> | {izan}:{dira}<ADT>:<><PRI>:<> | {izan}:{naiz}<ADT>:<><PRI>:<> | \
   {izan}:{zen}<ADT>:<><PII>:<> | {izan}:{ziren}<ADT>:<><PII>:<> | \
-  {ukan}:{du}<ADT>:<><PRI>:<> | {ukan}:{dut}<ADT>:<><PRI>:<> | {ukan}:{dute}<ADT>:<><PRI>:<> | \
-  {ukan}:{zuen}<ADT>:<><PII>:<> | {egon}:{dago}<ADT>:<><PRI>:<> | {egon}:{daude}<ADT>:<><PRI>:<>
+  {edun}:{du}<ADT>:<><PRI>:<> | {edun}:{dut}<ADT>:<><PRI>:<> | {edun}:{dute}<ADT>:<><PRI>:<> | \
+  {edun}:{zuen}<ADT>:<><PII>:<> | {egon}:{dago}<ADT>:<><PRI>:<> | {egon}:{daude}<ADT>:<><PRI>:<>
 
 % punctuation and abbreviations with their period
 $PUNCT$ = (\. | \, | \: | \; | \! | \? | ¡ | ¿ | \( | \) | \[ | \] | \" | « | » | \- | \/) <PUN>:<>

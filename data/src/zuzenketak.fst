@@ -7,59 +7,64 @@
 % standard form is also listed, with the same tags and mark: lookup drops
 % a reading whose lemma is the word's own mark value, so the standard word
 % gets no reading here, while generation with the replacement lemma finds
-% its path and inflects it as the non-standard word was inflected.
+% its path and inflects it as the non-standard word was inflected. The
+% standard paths end in <SNB>, which the lookup keeps only for a word that
+% begins with the lemma exactly: a capitalised standard word ("Hau da",
+% "Euskara" at the start of a sentence), which the case-sensitive drop
+% would miss, is refused too. Generation still finds these paths, since its
+% target (lemma and inflection tags) is a prefix of theirs.
 
 #include "endings.fst"
 
 % uninflected words: non-standard, then standard, with the same tags and mark
 $H$ = \
   {nere<IOR><PERARR><GEN>\[h\=nire\]}:{nere} | \
-  {nire<IOR><PERARR><GEN>\[h\=nire\]}:{nire} | \
+  {nire<IOR><PERARR><GEN><SNB>\[h\=nire\]}:{nire} | \
   {bezela<POST>\[h\=bezala\]}:{bezela} | \
-  {bezala<POST>\[h\=bezala\]}:{bezala} | \
+  {bezala<POST><SNB>\[h\=bezala\]}:{bezala} | \
   {ta<LOT><LOK>\[h\=eta\]}:{ta} | \
-  {eta<LOT><LOK>\[h\=eta\]}:{eta} | \
+  {eta<LOT><LOK><SNB>\[h\=eta\]}:{eta} | \
   {zan<ADT>\[h\=zen\]}:{zan} | \
-  {zen<ADT>\[h\=zen\]}:{zen} | \
+  {zen<ADT><SNB>\[h\=zen\]}:{zen} | \
   {det<ADL>\[h\=dut\]}:{det} | \
-  {dut<ADL>\[h\=dut\]}:{dut} | \
+  {dut<ADL><SNB>\[h\=dut\]}:{dut} | \
   {dezu<ADL>\[h\=duzu\]}:{dezu} | \
-  {duzu<ADL>\[h\=duzu\]}:{duzu} | \
+  {duzu<ADL><SNB>\[h\=duzu\]}:{duzu} | \
   {degu<ADL>\[h\=dugu\]}:{degu} | \
-  {dugu<ADL>\[h\=dugu\]}:{dugu} | \
+  {dugu<ADL><SNB>\[h\=dugu\]}:{dugu} | \
   {dezute<ADL>\[h\=duzue\]}:{dezute} | \
-  {duzue<ADL>\[h\=duzue\]}:{duzue} | \
+  {duzue<ADL><SNB>\[h\=duzue\]}:{duzue} | \
   {ordun<ADB>\[h\=orduan\]}:{ordun} | \
-  {orduan<ADB>\[h\=orduan\]}:{orduan} | \
+  {orduan<ADB><SNB>\[h\=orduan\]}:{orduan} | \
   {emen<ADB>\[h\=hemen\]}:{emen} | \
-  {hemen<ADB>\[h\=hemen\]}:{hemen} | \
+  {hemen<ADB><SNB>\[h\=hemen\]}:{hemen} | \
   {geo<ADB>\[h\=gero\]}:{geo} | \
-  {gero<ADB>\[h\=gero\]}:{gero} | \
+  {gero<ADB><SNB>\[h\=gero\]}:{gero} | \
   {hoiek<DET><ERKARR><NUMP>\[h\=horiek\]}:{hoiek} | \
-  {horiek<DET><ERKARR><NUMP>\[h\=horiek\]}:{horiek} | \
+  {horiek<DET><ERKARR><NUMP><SNB>\[h\=horiek\]}:{horiek} | \
   {hontan<DET><ERKARR><NUMS><INE>\[h\=honetan\]}:{hontan} | \
-  {honetan<DET><ERKARR><NUMS><INE>\[h\=honetan\]}:{honetan} | \
+  {honetan<DET><ERKARR><NUMS><INE><SNB>\[h\=honetan\]}:{honetan} | \
   {hortan<DET><ERKARR><NUMS><INE>\[h\=horretan\]}:{hortan} | \
-  {horretan<DET><ERKARR><NUMS><INE>\[h\=horretan\]}:{horretan} | \
+  {horretan<DET><ERKARR><NUMS><INE><SNB>\[h\=horretan\]}:{horretan} | \
   {zeatik<ADB><GAL>\[h\=zergatik\]}:{zeatik} | \
-  {zergatik<ADB><GAL>\[h\=zergatik\]}:{zergatik}
+  {zergatik<ADB><GAL><SNB>\[h\=zergatik\]}:{zergatik}
 
 $E$ = \
   {baño<LOT><LOK>\[e\=baino\]}:{baño} | \
-  {baino<LOT><LOK>\[e\=baino\]}:{baino} | \
+  {baino<LOT><LOK><SNB>\[e\=baino\]}:{baino} | \
   {vale<ITJ>\[e\=ados\]}:{vale} | \
-  {ados<ITJ>\[e\=ados\]}:{ados} | \
+  {ados<ITJ><SNB>\[e\=ados\]}:{ados} | \
   {gracias<ITJ>\[e\=eskerrik\ asko\]}:{gracias} | \
   {eskerrikasko<ITJ>\[e\=eskerrik\ asko\]}:{eskerrikasko} | \
-  {eskerrik\ asko<ITJ>\[e\=eskerrik\ asko\]}:{eskerrik\ asko} | \
+  {eskerrik\ asko<ITJ><SNB>\[e\=eskerrik\ asko\]}:{eskerrik\ asko} | \
   {osea<LOT><ADB>\[e\=hau\ da\]}:{osea} | \
-  {hau\ da<LOT><ADB>\[e\=hau\ da\]}:{hau\ da}
+  {hau\ da<LOT><ADB><SNB>\[e\=hau\ da\]}:{hau\ da}
 
 % inflected: euskera (standard euskara), a-final common noun
 $EUSK$ = \
   ({euskera<IZE><ARR>}:{euskera} $A$ | {euskera<IZE><ARR>}:{eusker} $PL$) \
     {\[h\=euskara\]}:<> | \
   ({euskara<IZE><ARR>}:{euskara} $A$ | {euskara<IZE><ARR>}:{euskar} $PL$) \
-    {\[h\=euskara\]}:<>
+    {<SNB>\[h\=euskara\]}:<>
 
 $H$ | $E$ | $EUSK$

@@ -52,15 +52,35 @@ class TARVOLA_API Tarvola {
   // with the personal dictionary first. On an engine without networks or
   // without a dictionary (default-constructed) it comes back unsplit.
   Paragrafoa analizatu_paragrafoa(int id, std::string testua);
+
+  // Whether the word is acceptable: the personal dictionary knows it, or a
+  // network other than "hp" reads it without "MAT" (nor "Rare" from
+  // "osag0"), or, with aurrizkiak, a standard lower-case word begins with
+  // it. A text with a blank or hyphen is analysed as a paragraph and fails
+  // only on a token of its first sentence whose sole reading is "EZZG".
   bool isValid(std::string hitza, bool aurrizkiak);
+  // The readings "eumorfo" generates whose analysis begins with testua
+  // (their forma holds the word); with standardOnly only the standard,
+  // lower-case ones. Empty without "eumorfo".
   std::vector<Analisia> bilatuHasiera(std::string testua, bool standardOnly);
+  // The forms of the lemma with the tags (forma of each reading). A lemma
+  // "eumorfo" does not know is taken as a personal-dictionary word of the
+  // category etiketak ("<ARR>", "<IZO>", "<ADI>", "<PIB>", "<LIB>",
+  // "<IZB>") and generated through "hp"; its readings name the source "HP".
   std::vector<Analisia> sortuFormak(std::string lema, std::string etiketak);
+  // The correction document of the paragraph (docs/OUTPUT_FORMATS.md);
+  // proposamenak asks the suggestion search for unknown words that no
+  // known word begins.
   std::string getParagrafoaBrindel(const std::string& testua, bool proposamenak);
+  // Spellings proposed for an unknown word (docs/SUGGESTIONS.md).
   std::vector<std::string> lortu_ezzg_proposamenak(std::string hitza);
 
  private:
   void kargatu_sareak();
   void kargatu_taula(Taula* taula);
+  // The form of an unknown lemma with exactly the tag list etiketak (as an
+  // Analisia's etiketa), through a throw-away personal dictionary; the
+  // lemma itself when none matches.
   std::string sortu_forma_ezezaguna(std::string lema, std::string etiketak);
 
   std::string konfigurazioa_;

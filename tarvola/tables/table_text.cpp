@@ -123,9 +123,9 @@ bool plausible(long count, std::size_t text_size) {
   return count <= static_cast<long>(text_size / 2) + 1024;
 }
 
-bool apply(const TableLine& line, std::vector<Egoera*>& states) {
-  if (line.kind != LineKind::kFinal && line.kind != LineKind::kArc) return true;
-  if (line.state < 0 || static_cast<std::size_t>(line.state) >= states.size()) return true;
+void apply(const TableLine& line, std::vector<Egoera*>& states) {
+  if (line.kind != LineKind::kFinal && line.kind != LineKind::kArc) return;
+  if (line.state < 0 || static_cast<std::size_t>(line.state) >= states.size()) return;
   Egoera*& state = states[static_cast<std::size_t>(line.state)];
   if (!state) state = new Egoera();
   if (line.kind == LineKind::kFinal) {
@@ -135,7 +135,6 @@ bool apply(const TableLine& line, std::vector<Egoera*>& states) {
     state->zubiak.push_back(new Zubia(line.target, std::string(line.upper), std::string(line.lower)));
     state->final = false;
   }
-  return true;
 }
 
 void add_states(std::vector<Egoera*>& states, long count) {
@@ -159,23 +158,40 @@ long count_deciphered(std::string_view text, LoadReport& report) {
   return seen ? static_cast<long>(last) + 1 : 1;
 }
 
+namespace {
+
+// Applies one line to the states, or records the field that is too long.
+void load_line(std::string_view text_line, std::size_t number, std::vector<Egoera*>& states,
+               LoadReport& report) {
+  if (report.problem != LoadReport::kNone) return;
+  TableLine line = parse_line(text_line);
+  if (line.kind == LineKind::kFieldTooLong) {
+    report.problem = LoadReport::kFieldTooLong;
+    report.line = number;
+    return;
+  }
+  apply(line, states);
+}
+
+// Adds the counted states, unless the count cannot be right for this text.
+bool make_states(std::string_view text, std::vector<Egoera*>& states, LoadReport& report) {
+  if (report.problem != LoadReport::kNone) return false;
+  if (!plausible(report.states, text.size())) {
+    report.problem = LoadReport::kTooManyStates;
+    return false;
+  }
+  add_states(states, report.states);
+  return true;
+}
+
+}  // namespace
+
 LoadReport load_plain(std::string_view text, std::vector<Egoera*>& states) {
   LoadReport report;
   report.states = count_plain(text);
-  if (!plausible(report.states, text.size())) {
-    report.problem = LoadReport::kTooManyStates;
-    return report;
-  }
-  add_states(states, report.states);
+  if (!make_states(text, states, report)) return report;
   for_each_plain_piece(text, kLoadPiece, [&](std::string_view piece, std::size_t number) {
-    if (report.problem != LoadReport::kNone) return;
-    TableLine line = parse_line(piece);
-    if (line.kind == LineKind::kFieldTooLong) {
-      report.problem = LoadReport::kFieldTooLong;
-      report.line = number;
-      return;
-    }
-    apply(line, states);
+    load_line(piece, number, states, report);
   });
   return report;
 }
@@ -183,22 +199,10 @@ LoadReport load_plain(std::string_view text, std::vector<Egoera*>& states) {
 LoadReport load_deciphered(std::string_view text, std::vector<Egoera*>& states) {
   LoadReport report;
   report.states = count_deciphered(text, report);
-  if (report.problem != LoadReport::kNone) return report;
-  if (!plausible(report.states, text.size())) {
-    report.problem = LoadReport::kTooManyStates;
-    return report;
-  }
-  add_states(states, report.states);
-  for_each_deciphered_line(text, report, [&](std::string_view text_line, bool closed, std::size_t number) {
+  if (!make_states(text, states, report)) return report;
+  for_each_deciphered_line(text, report, [&](std::string_view line, bool closed, std::size_t number) {
     // An unterminated last line is counted but not loaded.
-    if (!closed || report.problem != LoadReport::kNone) return;
-    TableLine line = parse_line(text_line);
-    if (line.kind == LineKind::kFieldTooLong) {
-      report.problem = LoadReport::kFieldTooLong;
-      report.line = number;
-      return;
-    }
-    apply(line, states);
+    if (closed) load_line(line, number, states, report);
   });
   return report;
 }

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <fstream>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -96,4 +97,26 @@ TEST_F(HpTable, VerbFormsFollowTheParticiple) {
   EXPECT_TRUE(has("<hp20>", "n", "<EZBU>"));    // egiten
   EXPECT_TRUE(has("<hp20>", "ko", "<GEL>"));    // egiteko
   EXPECT_TRUE(has("<hp24>", "", ""));           // har
+}
+
+TEST_F(HpTable, CommonNounsHaveEveryCaseInEveryNumber) {
+  // The classes a common noun gets by its final letter (the personal
+  // dictionary adds each group together): the union of their forms must
+  // hold every case in the indefinite, the singular and the plural; the
+  // partitive exists only without number.
+  const std::vector<std::vector<std::string>> kinds = {
+      {"<hp1>"}, {"<hp3>", "<hp2>"}, {"<hp4>"}, {"<hp6>", "<hp5>"}};
+  const char* cases[] = {"",      "<ERG>", "<DAT>", "<GEN>", "<SOZ>", "<DES>", "<INS>",
+                         "<INE>", "<ALA>", "<ABL>", "<GEL>", "<PAR>", "<MOT>"};
+  for (const auto& kind : kinds) {
+    std::set<std::string> tags;
+    for (const auto& cls : kind)
+      for (const auto& a : table->sortuFormak(cls, "", false, false)) tags.insert(a.analisia.substr(cls.size()));
+    for (const char* number : {"", "<NUMS>", "<NUMP>"})
+      for (const char* c : cases) {
+        const std::string want = std::string(number) + c;
+        bool partitive = std::string(c) == "<PAR>";
+        EXPECT_EQ(tags.count(want), partitive && *number ? 0u : 1u) << kind.front() << " " << want;
+      }
+  }
 }

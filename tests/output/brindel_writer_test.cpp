@@ -1,0 +1,160 @@
+// The verdict rules of the correction document, with the engine's services
+// replaced by fixed answers so each rule can be seen on its own.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "support/chain_tables.h"
+#include "support/test_files.h"
+#include "tarvola/output/brindel_writer.h"
+#include "tarvola/tables/Taula.h"
+
+namespace tarvola {
+namespace {
+
+Analisia reading(const std::string& analysis, const std::string& network = "") {
+  return Analisia(analysis, network);
+}
+
+Analisia generated(const std::string& lemma, const std::string& form) {
+  Analisia a(lemma + "<IZE>", "eumorfo");
+  a.forma = form;
+  return a;
+}
+
+Tokena token(const std::string& form, std::vector<Analisia> readings, bool capital = false) {
+  Tokena t;
+  t.forma = form;
+  t.maiuskula = capital;
+  t.analisiak = std::move(readings);
+  return t;
+}
+
+Tokena unknown(const std::string& form, bool capital = false) {
+  return token(form, {reading(form + "<EZZG>")}, capital);
+}
+
+class BrindelWriter : public ::testing::Test {
+ protected:
+  BrindelWriter() {
+    const std::string path = dir_.write(
+        "eumorfo.txt", testing::chain_table({"e t x e <IZE>:<> <ABS>:<> <MUGM>:a"}));
+    network_ = new Sarea("eumorfo", path, new Taula(path));
+    networks_["eumorfo"] = network_;
+    services_.networks = &networks_;
+    services_.prefix_search = [this](const std::string& text) {
+      auto it = prefixes_.find(text);
+      return it == prefixes_.end() ? std::vector<Analisia>() : it->second;
+    };
+    services_.suggestions = [this](const std::string&) { return suggestions_; };
+    services_.unknown_form = [](const std::string& lemma, const std::string& tags) {
+      return lemma + "+" + tags;
+    };
+  }
+  ~BrindelWriter() override { delete network_; }
+
+  // The verdict text of one token, markup of the document around it cut off.
+  std::string verdict(const Tokena& t) {
+    Esaldia sentence(-1, "");
+    sentence.tokenak.push_back(t);
+    std::ostringstream out;
+    output::write_brindel(out, {sentence}, services_);
+    const std::string doc = out.str();
+    const std::size_t begin = doc.find("</frm>") + 6;
+    return doc.substr(begin, doc.find("\n</tok>") - begin);
+  }
+
+  testing::TempDir dir_;
+  Sarea* network_;
+  SareMapa networks_;
+  std::map<std::string, std::vector<Analisia>> prefixes_;
+  std::vector<std::string> suggestions_;
+  output::BrindelServices services_;
+};
+
+TEST_F(BrindelWriter, DocumentFrame) {
+  std::ostringstream none;
+  output::write_brindel(none, {}, services_);
+  EXPECT_EQ(none.str(), "<p>\n</p>\n");
+
+  Esaldia first(-1, "");
+  Tokena a = token("bai", {reading("bai<ITJ>")});
+  a.hutsunea = true;
+  first.tokenak = {a, token(".", {reading(".<PUN>")})};
+  std::ostringstream out;
+  output::write_brindel(out, {first, Esaldia(0, "")}, services_);
+  EXPECT_EQ(out.str(),
+            "<p>\n<es ezk=\"1\" pzk=\"0\">\n"
+            "<tok h=\"1\" z=\"32\">\n\t<frm>bai</frm>\n\t<prop k=\"ok\"/>\n</tok>\n"
+            "<tok h=\"2\" z=\"0\">\n\t<frm>.</frm>\n\t<prop k=\"ok\"/>\n</tok>\n"
+            "</es>\n<es ezk=\"2\" pzk=\"0\">\n</es>\n</p>\n");
+}
+
+TEST_F(BrindelWriter, PrefixSuggestions) {
+  // Shortest lemma first; a capital lemma, a form already in the verdict
+  // text ("bai" of h="bai", "etxea" inside "etxeak") and the sixth are left out.
+  prefixes_["etx "] = {generated("etxekoak", "etxekoak"), generated("etxeko", "etxea"),
+                       generated("Etxeberri", "Etxeberri"), generated("bai", "bai"),
+                       generated("etxe", "etxeak"), generated("etxola", "etxola"),
+                       generated("etxalde", "etxalde"), generated("etxarte", "etxarte"),
+                       generated("etxaurre", "etxaurre")};
+  EXPECT_EQ(verdict(unknown("etx")),
+            "\n\t<prop k=\"ezz\" h=\"bai\">"
+            "\n\t\t<sugg>etxeak</sugg>\n\t\t<sugg>etxola</sugg>\n\t\t<sugg>etxalde</sugg>"
+            "\n\t\t<sugg>etxarte</sugg>\n\t\t<sugg>etxekoak</sugg>\n\t</prop>");
+}
+
+TEST_F(BrindelWriter, CapitalisedTokenAlsoSearchesLowerCase) {
+  prefixes_["Etx "] = {generated("etxola", "Etxola")};
+  prefixes_["etx "] = {generated("etxola", "etxola"), generated("etxe", "etxe")};
+  EXPECT_EQ(verdict(unknown("Etx", true)),
+            "\n\t<prop k=\"ezz\" h=\"bai\">\n\t\t<sugg>Etxe</sugg>\n\t\t<sugg>Etxola</sugg>\n\t</prop>");
+  // Without the capital mark the lower-case search is not made.
+  EXPECT_EQ(verdict(unknown("Etx")),
+            "\n\t<prop k=\"ezz\" h=\"bai\">\n\t\t<sugg>Etxola</sugg>\n\t</prop>");
+}
+
+TEST_F(BrindelWriter, SuggestionSearchOnlyWhenAskedFor) {
+  suggestions_ = {"etxea", "etxe", "etxea"};
+  EXPECT_EQ(verdict(unknown("etxae")), "\n\t<prop k=\"ezz\"/>");
+  services_.proposamenak = true;
+  EXPECT_EQ(verdict(unknown("etxae")),
+            "\n\t<prop k=\"ezz\">\n\t\t<sugg>etxea</sugg>\n\t\t<sugg>etxe</sugg>\n\t</prop>");
+  suggestions_.clear();
+  EXPECT_EQ(verdict(unknown("etxae")), "\n\t<prop k=\"ezz\">\n\t</prop>");
+}
+
+TEST_F(BrindelWriter, StandardReadingMakesOk) {
+  // The replacement gathered before the standard reading is dropped.
+  EXPECT_EQ(verdict(token("etxia", {reading("etxi<IZE><ABS><MUGM>[h=etxe]", "eumorfo"),
+                                     reading("etxia<IZE>")})),
+            "\n\t<prop k=\"ok\"/>");
+  // Two readings of which one is an unknown-word fallback are not unknown.
+  EXPECT_EQ(verdict(token("xy", {reading("xy<EZZG>"), reading("xy<IZE>")})), "\n\t<prop k=\"ok\"/>");
+}
+
+TEST_F(BrindelWriter, ReplacementsOfNonStandardReadings) {
+  // "hobe" through the network, once even when two readings give it; the
+  // capital of the word is kept.
+  Analisia better = reading("etxi<IZE><ABS><MUGM>[h=etxe]", "eumorfo");
+  better.maiuskulaMota = 1;
+  EXPECT_EQ(verdict(token("Etxia", {better, better})),
+            "\n\t<prop>\n\t\t<hobe>Etxea</hobe>\n\t</prop>");
+  // "erabili" with a lemma the network cannot inflect: the engine's
+  // unknown-form generation, given the reading's tags.
+  EXPECT_EQ(verdict(token("ordenagailua", {reading("ordenagailu<IZE>[e=konputagailu]", "eumorfo")})),
+            "\n\t<prop>\n\t\t<erabili>konputagailu+ IZE</erabili>\n\t</prop>");
+  // A reading of a network that is not loaded gives nothing.
+  EXPECT_EQ(verdict(token("etxia", {reading("etxi<IZE>[h=etxe]", "galdua")})),
+            "\n\t<prop>\n\t</prop>");
+  // Rare readings are passed over, so a token of rare readings only has an
+  // empty verdict.
+  EXPECT_EQ(verdict(token("zaharki", {reading("zaharki<ADJ><Rare>"), reading("zaharki<IZE><Rare>")})),
+            "\n\t<prop>\n\t</prop>");
+}
+
+}  // namespace
+}  // namespace tarvola
