@@ -116,8 +116,13 @@ inline void exercise_table(std::vector<Egoera*>&& states, std::size_t choice) {
     internal::WalkResults indexed, reference;
     internal::TaulaAccess::walk(table, word, indexed, false);
     internal::TaulaAccess::walk(table, word, reference, true);
-    if (indexed.text != reference.text || indexed.ends != reference.ends)
-      fail("indexed and object lookups differ");
+    // The index skips branches that cannot consume the next letter, so the
+    // object walk may reach its step budget sooner: up to where the shorter
+    // one stopped, both must give the same readings in the same order.
+    const internal::WalkResults& shorter = indexed.size() < reference.size() ? indexed : reference;
+    const internal::WalkResults& longer = indexed.size() < reference.size() ? reference : indexed;
+    for (std::size_t i = 0; i < shorter.size(); ++i)
+      if (shorter[i] != longer[i]) fail("indexed and object lookups differ");
     std::vector<Analisia> readings = table.analizatuTokena(word);
     if (readings.size() > indexed.size()) fail("more readings than walk results");
   }
