@@ -84,6 +84,13 @@ TEST(Concurrency, OneTableManyReaders) {
   const Taula table(testing::data_path("../../data/demo/eumorfoPG.txt"));
   ASSERT_FALSE(table.egoerak.empty());
   const std::vector<Job> expected = single_threaded(table, test_words());
+  std::size_t known = 0, generated = 0;
+  for (const Job& job : expected) {
+    known += !job.readings.empty();
+    generated += !job.generated.empty();
+  }
+  ASSERT_GT(known, 0u);
+  ASSERT_GT(generated, 0u);
 
   std::atomic<std::size_t> mismatches{0};
   std::vector<std::thread> threads;
