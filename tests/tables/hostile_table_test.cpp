@@ -90,7 +90,7 @@ TEST(HostileTable, ReadingsOfOneWordAreCapped) {
   std::string first = "etxe<IZE>";
   for (int s = 1; s <= 16; ++s) first += "<A>";
   EXPECT_EQ(found[0].analisia, first);
-  EXPECT_LE(found.size(), 4096u);
+  EXPECT_LE(found.size(), 1024u);
   EXPECT_LE(table.sortuFormak("etxe", "<IZE>", false, false).size(), 8192u);
 }
 

@@ -31,7 +31,7 @@ namespace tarvola::internal {
 
 inline constexpr std::size_t kMaxTarget = 999;
 inline constexpr std::size_t kMaxArea = 9999;
-inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 18;  // see kMaxSteps
+inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 19;  // see kMaxSteps
 // A real generation gives at most about 1,600 forms (a subordinating prefix
 // before an auxiliary verb); see kMaxResults.
 inline constexpr std::size_t kMaxGenerateResults = std::size_t{1} << 13;
@@ -75,6 +75,9 @@ class GenerateWalk {
     }
     if (((flags & kEli) && !target_eli_) || ((flags & kPsp) && !target_psp_)) return;
     if ((flags & kStop) || !source_.valid(state) || depth >= kMaxDepth) return;
+    steps_ += source_.arc_count(state);  // each arc is looked at (see kMaxSteps)
+    if (steps_ > kMaxGenerateSteps) stopped_ = true;
+    if (stopped_) return;
     source_.all_arcs(state, [&](std::string_view upper, std::string_view lower, int target) {
       follow(upper, lower, target, flags, depth);
       return !stopped_;
