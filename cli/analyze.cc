@@ -1,0 +1,64 @@
+// tarvola analyze: every reading of each word, one line per reading.
+#include <iostream>
+#include <memory>
+
+#include "commands.h"
+#include "common/engine.h"
+#include "common/items.h"
+#include "common/json.h"
+
+namespace tarvola_cli {
+
+Runner register_analyze(CLI::App& parent) {
+  struct Args {
+    CommonOptions common;
+    std::vector<std::string> words, files;
+    std::string network;
+  };
+  auto args = std::make_shared<Args>();
+  CLI::App* app = parent.add_subcommand(
+      "analyze",
+      "Every reading of each word: all networks, then the personal dictionary.\n"
+      "Text output: WORD<TAB>ANALYSIS<TAB>NETWORK per reading, WORD<TAB>+? when there is\n"
+      "none, and a blank line after each word.");
+  app->add_option("words", args->words, "Words (none: one word per line from --file or stdin)");
+  app->add_option("-f,--file", args->files, "Read words from this file, one a line ('-': stdin)");
+  app->add_option("--network", args->network, "Only this network (no personal dictionary)");
+  add_engine_options(*app, args->common);
+  add_io_options(*app, args->common, true);
+
+  return [args]() {
+    const CommonOptions& o = args->common;
+    auto engine = Engine::open(o);
+    if (!engine) return 2;
+    if (!args->network.empty() && !engine->require_network(args->network, "by --network"))
+      return 2;
+    Output out;
+    if (!out.open(o.output, o.unbuffered)) return 2;
+    bool read_ok = for_each_line_item(args->words, args->files, [&](const std::string& word) {
+      EnginePiece piece;
+      if (!engine_text(word, o.text_encoding(), piece)) return;
+      std::vector<tarvola::Analisia> readings =
+          args->network.empty() ? engine->get().analizatuTokena(piece.text())
+                                : engine->get().analizatuTokena(piece.text(), args->network);
+      if (args->network.empty()) {
+        for (tarvola::Analisia& a : engine->dictionary_readings(piece.text()))
+          readings.push_back(std::move(a));
+      }
+      if (o.json()) {
+        write_json_line(out, {{"word", piece.restore(piece.text(), Encoding::kUtf8)},
+                              {"readings", readings_json(readings, piece)}});
+        return;
+      }
+      for (const tarvola::Analisia& a : readings)
+        out.write(word + "\t" + piece.restore(a.analisia, o.text_encoding()) + "\t" +
+                  piece.restore(a.sarea, o.text_encoding()) + "\n");
+      if (readings.empty()) out.write(word + "\t+?\n");
+      out.write("\n");
+      out.end_item();
+    });
+    return out.close() && read_ok ? 0 : 2;
+  };
+}
+
+}  // namespace tarvola_cli

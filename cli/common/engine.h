@@ -1,0 +1,72 @@
+// Building the engine for a subcommand.
+//
+// The configuration is the --config file, else $TARVOLA_CONFIG, else the
+// bundled data: <bindir>/../share/tarvola/tarvola.conf beside an installed
+// tool, the build tree's data when run from there. Table paths in it are
+// taken relative to the configuration's folder. Before the engine is built
+// the configuration and every table it lists are checked (the library would
+// end the process for a missing plain table); what is missing is named on
+// standard error. The library's own messages are captured while it loads
+// and unloads and forwarded to standard error.
+#ifndef TARVOLA_CLI_COMMON_ENGINE_H
+#define TARVOLA_CLI_COMMON_ENGINE_H
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "common/options.h"
+#include "tarvola/tarvola.h"
+
+namespace tarvola_cli {
+
+struct NetworkEntry {
+  std::string name;              // as the engine names it
+  std::string written;           // its path as the configuration gives it
+  std::filesystem::path table;   // absolute path of its table file
+};
+
+// The configuration file to use; empty (message printed) when there is
+// none.
+std::filesystem::path find_config(const std::string& option);
+
+// The entries the engine will load from `config`, checked: false (message
+// printed, naming the file and line) when one is missing or unusable.
+bool read_config(const std::filesystem::path& config, std::vector<NetworkEntry>& entries);
+
+class Engine {
+ public:
+  // Null (message printed) when the configuration, a table or the personal
+  // dictionary is missing, or when the engine cannot be built.
+  static std::unique_ptr<Engine> open(const CommonOptions& options);
+  Engine(const Engine&) = delete;
+  Engine& operator=(const Engine&) = delete;
+  ~Engine();
+
+  tarvola::Tarvola& get() { return *tarvola_; }
+  bool has_network(const std::string& name) const;
+  // False (message printed) when the configuration lacks the network.
+  bool require_network(const std::string& name, const char* purpose) const;
+  const std::vector<NetworkEntry>& networks() const { return networks_; }
+
+  // The readings of the personal dictionary (through the "hp" network) for
+  // a word; empty without a dictionary.
+  std::vector<tarvola::Analisia> dictionary_readings(const std::string& word);
+
+ private:
+  Engine() = default;
+
+  std::vector<NetworkEntry> networks_;
+  std::filesystem::path folder_;  // the configuration's folder
+  std::string dict_path_;
+  bool verbose_ = false;
+  std::unique_ptr<tarvola::Tarvola> tarvola_;
+  // The dictionary lookup and its own "hp" network (owning its table).
+  std::unique_ptr<tarvola::HiztegiPertsonala> dictionary_;
+  std::unique_ptr<tarvola::Sarea> hp_network_;
+};
+
+}  // namespace tarvola_cli
+
+#endif

@@ -1,0 +1,92 @@
+#include "common/items.h"
+
+#include <iostream>
+
+#include "common/io.h"
+#include "common/paragraphs.h"
+#include "common/progress.h"
+
+namespace tarvola_cli {
+
+namespace {
+
+const std::vector<std::string>& inputs_or_stdin(const std::vector<std::string>& files) {
+  static const std::vector<std::string> kStdin{"-"};
+  return files.empty() ? kStdin : files;
+}
+
+}  // namespace
+
+bool for_each_line_item(const std::vector<std::string>& words, const std::vector<std::string>& files,
+                        const std::function<void(const std::string&)>& f) {
+  if (!words.empty()) {
+    for (const std::string& w : words) f(w);
+    return true;
+  }
+  bool ok = true;
+  for (const std::string& name : inputs_or_stdin(files)) {
+    std::FILE* file = open_input(name);
+    if (file == nullptr) {
+      ok = false;
+      continue;
+    }
+    LineReader reader(file);
+    std::string piece, line;
+    bool ends = false;
+    while (reader.next(piece, ends)) {
+      line += piece;
+      if (!ends) continue;
+      if (line.find_first_not_of(" \t") != std::string::npos) f(line);
+      line.clear();
+    }
+    if (reader.failed()) {
+      std::cerr << "tarvola: reading " << name << " failed\n";
+      ok = false;
+    }
+    close_input(file);
+  }
+  return ok;
+}
+
+bool engine_text(const std::string& item, Encoding encoding, EnginePiece& piece) {
+  bool bad = false;
+  if (!to_engine(item, encoding, [&](std::size_t, std::size_t) { bad = true; }, piece)) {
+    std::cerr << "tarvola: \"" << item << "\" holds more than " << kPlaceholders
+              << " distinct characters outside code page 1252; skipped\n";
+    return false;
+  }
+  if (bad)
+    std::cerr << "tarvola: \"" << item
+              << "\" is not UTF-8; its bytes are passed through unchanged (see --encoding)\n";
+  return true;
+}
+
+bool for_each_paragraph(const CommonOptions& options,
+                        const std::function<void(const EnginePiece&)>& f) {
+  bool ok = true;
+  Progress progress;
+  std::size_t items = 0, before = 0;
+  for (const std::string& name : inputs_or_stdin(options.inputs)) {
+    std::FILE* file = open_input(name);
+    if (file == nullptr) {
+      ok = false;
+      continue;
+    }
+    ParagraphSource source(file, name == "-" ? "<stdin>" : name, options.text_encoding(),
+                           options.mode());
+    EnginePiece piece;
+    while (source.next(piece)) {
+      f(piece);
+      progress.update(++items, before + source.bytes_read());
+    }
+    before += source.bytes_read();
+    if (source.failed()) {
+      std::cerr << "tarvola: reading " << name << " failed\n";
+      ok = false;
+    }
+    close_input(file);
+  }
+  return ok;
+}
+
+}  // namespace tarvola_cli

@@ -1,0 +1,33 @@
+#include "common/options.h"
+
+namespace tarvola_cli {
+
+void add_engine_options(CLI::App& app, CommonOptions& o) {
+  app.add_option("--config", o.config,
+                 "Network configuration file (default: $TARVOLA_CONFIG, else the bundled data)");
+  app.add_option("--dict", o.dict, "Personal dictionary file");
+  app.add_flag("--verbose", o.verbose, "Also show the library's routine messages on standard error");
+}
+
+void add_io_options(CLI::App& app, CommonOptions& o, bool json) {
+  app.add_option("--encoding", o.encoding, "Encoding of input and text output")
+      ->check(CLI::IsMember({"utf-8", "cp1252"}))
+      ->capture_default_str();
+  app.add_option("-o,--output", o.output, "Write results to this file ('-': standard output)")
+      ->capture_default_str();
+  app.add_flag("-b,--unbuffered", o.unbuffered, "Flush after every item (for two-way pipes)");
+  if (json)
+    app.add_option("--format", o.format, "Output format; json writes one object per line")
+        ->check(CLI::IsMember({"text", "json"}))
+        ->capture_default_str();
+}
+
+void add_text_inputs(CLI::App& app, CommonOptions& o) {
+  app.add_option("files", o.inputs, "Input files ('-' or none: standard input)");
+  app.add_option("--paragraph-mode", o.paragraph_mode,
+                 "line: one paragraph per line; blank-line: paragraphs separated by blank lines")
+      ->check(CLI::IsMember({"line", "blank-line"}))
+      ->capture_default_str();
+}
+
+}  // namespace tarvola_cli

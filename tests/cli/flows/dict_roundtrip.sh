@@ -1,0 +1,22 @@
+# tarvola dict add|list|remove on a file, and the engine reading it.
+source "$(dirname "$0")/common.sh"
+cp "$DATA/dict.txt" d.txt
+"$TOOL" dict --dict d.txt add mahai '<ARR>' --extra1 altzaria
+"$TOOL" dict --dict d.txt add Iruña '<LIB>'
+"$TOOL" dict --dict d.txt add mahai '<ARR>' 2> again.txt
+grep -q "already in" again.txt || fail "duplicate not reported"
+[ "$(grep -c . d.txt)" = 4 ] || fail "duplicate written: $(cat d.txt)"
+grep -q $'^Iru\xf1a\t<LIB>' d.txt || fail "lemma not stored in code page 1252"
+printf 'mendi\t<ARR>\t\t\nmahai\t<ARR>\taltzaria\t\nIruña\t<LIB>\t\t\n' > want.txt
+"$TOOL" dict --dict d.txt list | diff -u want.txt - || fail "list"
+"$TOOL" analyze --config "$DATA/tarvola.conf" --dict d.txt mahaian > got.txt
+grep -q $'^mahaian\tmahai<IZE><ARR><hp1><INE><NUMS><MUGM>\thp$' got.txt || fail "added word not analysed: $(cat got.txt)"
+"$TOOL" dict --dict d.txt remove mahai '<ARR>'
+"$TOOL" dict --dict d.txt list | grep -q mahai && fail "not removed"
+status=0; "$TOOL" dict --dict d.txt remove mahai '<ARR>' 2>/dev/null || status=$?
+[ $status = 1 ] || fail "removing an absent word: status $status"
+status=0; "$TOOL" dict --dict d.txt add etxe '<IZE>' 2>/dev/null || status=$?
+[ $status = 2 ] || fail "unknown category: status $status"
+status=0; "$TOOL" dict --dict none.txt list 2>/dev/null || status=$?
+[ $status = 2 ] || fail "missing dictionary: status $status"
+exit 0
