@@ -14,7 +14,7 @@ seconds=${1:-60}
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${BUILD_DIR:-$root/build-fuzz}
 corpus_text=${CORPUS_DIR:-$root/../shared/corpus}
-harnesses=${*:-table_text enciphered_table dictionary paragraph}
+harnesses=${*:-table_text enciphered_table dictionary paragraph cli_input}
 
 if [ "${NO_BUILD:-0}" != 1 ]; then
   cmake -S "$root" -B "$build" -DCMAKE_CXX_COMPILER="${CXX:-clang++-14}" \
@@ -32,7 +32,7 @@ for h in $harnesses; do
   mkdir -p "$work" "$findings"
   seeds=$root/fuzz/corpus/$h
   extra=""
-  if [ "$h" = paragraph ] && [ -d "$corpus_text" ]; then
+  if { [ "$h" = paragraph ] || [ "$h" = cli_input ]; } && [ -d "$corpus_text" ]; then
     # A few short slices of real text in both encodings.
     mkdir -p "$build/fuzz-seeds/paragraph"
     for f in eu-ud-dev.txt eu-ud-dev.cp1252.txt eu-messages.txt eu-news.cp1252.txt; do
@@ -46,6 +46,7 @@ for h in $harnesses; do
     table_text | enciphered_table) options="$options -dict=$root/fuzz/table.dict -max_len=16384" ;;
     dictionary) options="$options -dict=$root/fuzz/dictionary.dict -max_len=4096" ;;
     paragraph) options="$options -max_len=20000" ;;
+    cli_input) options="$options -max_len=4000" ;;
   esac
   echo "== $h: $seconds s"
   # shellcheck disable=SC2086
