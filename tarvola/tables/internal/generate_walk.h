@@ -13,7 +13,8 @@
 // Limits that keep every table finite: both areas stay under 10000 bytes,
 // a state is not re-entered on one path while the upper side has not grown
 // (a cycle that spells nothing), and one generation stops after
-// kMaxGenerateSteps steps or kMaxResults results.
+// kMaxGenerateSteps steps, kMaxGenerateResults results or kMaxResultBytes
+// of emitted text.
 #ifndef TARVOLA_TABLES_INTERNAL_GENERATE_WALK_H
 #define TARVOLA_TABLES_INTERNAL_GENERATE_WALK_H
 
@@ -30,7 +31,10 @@ namespace tarvola::internal {
 
 inline constexpr std::size_t kMaxTarget = 999;
 inline constexpr std::size_t kMaxArea = 9999;
-inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 22;
+inline constexpr std::uint64_t kMaxGenerateSteps = std::uint64_t{1} << 19;  // see kMaxSteps
+// A real generation gives at most about 1,600 forms (a subordinating prefix
+// before an auxiliary verb); see kMaxResults.
+inline constexpr std::size_t kMaxGenerateResults = std::size_t{1} << 13;
 
 // Copies the lemma's capitals onto the surface form, position by position,
 // up to the first tag of the upper side.
@@ -71,6 +75,9 @@ class GenerateWalk {
     }
     if (((flags & kEli) && !target_eli_) || ((flags & kPsp) && !target_psp_)) return;
     if ((flags & kStop) || !source_.valid(state) || depth >= kMaxDepth) return;
+    steps_ += source_.arc_count(state);  // each arc is looked at (see kMaxSteps)
+    if (steps_ > kMaxGenerateSteps) stopped_ = true;
+    if (stopped_) return;
     source_.all_arcs(state, [&](std::string_view upper, std::string_view lower, int target) {
       follow(upper, lower, target, flags, depth);
       return !stopped_;
@@ -87,7 +94,7 @@ class GenerateWalk {
     const std::size_t upper_mark = upper_.size();
     const std::size_t surface_mark = surface_.size();
     if (!agrees_after(upper, upper_mark)) return;
-    if (upper.empty() && target >= 0 && on_path(target, upper_mark)) return;
+    if (upper.empty() && target >= 0 && (on_path(target, upper_mark) || stopped_)) return;
     upper_.append(upper);
     surface_.append(lower);
     path_.push_back({target, upper_.size()});
@@ -121,9 +128,12 @@ class GenerateWalk {
     return f;
   }
 
-  bool on_path(int state, std::size_t upper_length) const {
-    for (auto it = path_.rbegin(); it != path_.rend() && it->upper_length == upper_length; ++it)
+  // Counts the entries it looks at as steps, as the lookup walk does.
+  bool on_path(int state, std::size_t upper_length) {
+    for (auto it = path_.rbegin(); it != path_.rend() && it->upper_length == upper_length; ++it) {
+      if (++steps_ > kMaxGenerateSteps) stopped_ = true;
       if (it->state == state) return true;
+    }
     return false;
   }
 
@@ -131,7 +141,9 @@ class GenerateWalk {
     copy_capitals(upper_, surface_);
     results_.emplace_back(upper_, network_);
     results_.back().forma = surface_;
-    if (results_.size() >= kMaxResults) stopped_ = true;
+    emitted_bytes_ += upper_.size() + surface_.size();
+    if (results_.size() >= kMaxGenerateResults || emitted_bytes_ >= kMaxResultBytes)
+      stopped_ = true;
   }
 
   const Source& source_;
@@ -143,6 +155,7 @@ class GenerateWalk {
   std::string surface_;
   std::vector<PathEntry> path_;
   std::uint64_t steps_ = 0;
+  std::size_t emitted_bytes_ = 0;
   bool target_eli_ = false;
   bool target_psp_ = false;
   bool stopped_ = false;

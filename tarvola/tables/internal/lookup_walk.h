@@ -10,7 +10,8 @@
 // last state are skipped; an epsilon cycle is not followed round (a state is
 // not re-entered at the same input position on one path); the output stays
 // under 1000 bytes (an arc that would overflow it is not taken); and one
-// lookup stops after kMaxSteps arc steps or kMaxResults results.
+// lookup stops after kMaxSteps arc steps, kMaxResults results or
+// kMaxResultBytes of result text.
 //
 // All search state lives in the walk object, on the caller's stack: a
 // table is only read, so lookups on one table may run in parallel.
@@ -31,8 +32,20 @@ namespace tarvola::internal {
 inline constexpr std::size_t kMaxWord = 999;
 inline constexpr std::size_t kMaxOutput = 999;
 inline constexpr unsigned kMaxDepth = 4000;
-inline constexpr std::uint64_t kMaxSteps = std::uint64_t{1} << 24;
-inline constexpr std::size_t kMaxResults = std::size_t{1} << 16;
+// The step budgets bound the time a malformed table can take (a chain of
+// doubled epsilon arcs has exponentially many paths) to some tens of
+// milliseconds per lookup or generation. A step is a state entered, an arc
+// looked at there, or a path entry the cycle check compares. The default
+// main network needs at most about 5,000 steps for a lookup and 53,000 for
+// a generation of any word of the Basque test corpus.
+inline constexpr std::uint64_t kMaxSteps = std::uint64_t{1} << 18;
+// Every result becomes a parsed reading (a few microseconds each), so the
+// number of results is capped too: real words have at most about ten
+// readings. Results are also capped by their total text, since a table can
+// emit the same long spelling round a cycle thousands of times; real
+// readings are well under 100 bytes each.
+inline constexpr std::size_t kMaxResults = std::size_t{1} << 10;
+inline constexpr std::size_t kMaxResultBytes = std::size_t{1} << 20;
 
 // The accepted analysis strings of one lookup, packed in one buffer.
 struct WalkResults {
@@ -115,7 +128,11 @@ class LookupWalk {
     if (output_.size() == 1 && !given_all_upper_ && given_lower_ &&
         latin1::is_ascii_upper(output_.view()[0]))
       return;
-    source_.matches(state, std::string_view(walked_ + pos, walked_size_ - pos),
+    const std::string_view rest(walked_ + pos, walked_size_ - pos);
+    steps_ += source_.match_cost(state, rest);
+    if (steps_ > kMaxSteps) stopped_ = true;
+    if (stopped_) return;
+    source_.matches(state, rest,
                     [&](std::string_view upper, std::size_t lower_length, int target) {
                       follow(upper, pos, lower_length, target, depth);
                       return !stopped_;
@@ -131,7 +148,7 @@ class LookupWalk {
       return;
     const bool guarded = source_.guard_cycles() && target >= 0;
     if (guarded) {
-      if (lower_length == 0 && on_path(target, pos)) return;
+      if (lower_length == 0 && (on_path(target, pos) || stopped_)) return;
       path_.push_back({target, next});
     }
     const std::size_t mark = output_.size();
@@ -142,16 +159,20 @@ class LookupWalk {
   }
 
   // Whether the state was entered at this input position on the current path.
-  bool on_path(int state, std::size_t pos) const {
-    for (auto it = path_.rbegin(); it != path_.rend() && it->pos == pos; ++it)
+  // Each entry looked at counts as a step: on a long chain of epsilon arcs
+  // this scan, not the descent, is where the time goes.
+  bool on_path(int state, std::size_t pos) {
+    for (auto it = path_.rbegin(); it != path_.rend() && it->pos == pos; ++it) {
+      if (++steps_ > kMaxSteps) stopped_ = true;
       if (it->state == state) return true;
+    }
     return false;
   }
 
   void accept() {
     results_.text.append(output_.view());
     results_.ends.push_back(static_cast<std::uint32_t>(results_.text.size()));
-    if (results_.size() >= kMaxResults) stopped_ = true;
+    if (results_.size() >= kMaxResults || results_.text.size() >= kMaxResultBytes) stopped_ = true;
   }
 
   const Source& source_;

@@ -1,5 +1,7 @@
 // Internal access to a table's walks for benchmarks and tests: the bare
-// analysis walk (strings, no records) and whether a table is indexed.
+// analysis walk (strings, no records), whether a table is indexed, and
+// indexing a table whose states were filled by hand (the fuzz harnesses load
+// table text through the loader functions, without a file).
 #ifndef TARVOLA_TABLES_INTERNAL_TAULA_ACCESS_H
 #define TARVOLA_TABLES_INTERNAL_TAULA_ACCESS_H
 
@@ -12,6 +14,7 @@ namespace tarvola::internal {
 
 struct TaulaAccess {
   static bool indexed(const Taula& t) { return t.current_index() != nullptr; }
+  static void reindex(Taula& t) { t.reindex(); }
   // The analysis strings of the word, before filtering into records; with
   // `reference` the walk reads the state objects even when an index exists.
   static void walk(const Taula& t, std::string_view word, WalkResults& results,

@@ -1,0 +1,27 @@
+# Input the tool must answer calmly: empty input, blanks only, and a reader
+# that closes the pipe after the first line.
+source "$(dirname "$0")/common.sh"
+conf="$DATA/tarvola.conf"
+
+: | "$TOOL" analyze --config "$conf" > empty.txt 2> empty.err || fail "empty input: exit $?"
+[ ! -s empty.txt ] || fail "empty input gave output: $(head -c 200 empty.txt)"
+: | "$TOOL" cg3 --config "$conf" > empty-cg3.txt 2> empty-cg3.err || fail "empty text: exit $?"
+[ ! -s empty-cg3.txt ] || fail "empty text gave output: $(head -c 200 empty-cg3.txt)"
+printf '   \n\t\n\n' | "$TOOL" multext --config "$conf" -b > blank.txt 2> blank.err \
+  || fail "blank text: exit $?"
+[ ! -s blank.txt ] || fail "blank text gave output: $(head -c 200 blank.txt)"
+
+# Enough text that the tool is still writing when head has gone.
+for i in $(seq 1 20000); do echo "Etxea ona da."; done > many.txt
+set +o pipefail
+first=$("$TOOL" analyze --config "$conf" -f many.txt 2> closed.err | head -1)
+status=${PIPESTATUS[0]}
+set -o pipefail
+[ -n "$first" ] || fail "no first line"
+# Ended by the broken pipe (status 141) or by noticing the failed write; a
+# crash (status 128 + SIGSEGV/SIGABRT) or a hang is a fault.
+case $status in
+  0|1|2|141) ;;
+  *) fail "closed output: exit $status: $(head -c 300 closed.err)" ;;
+esac
+exit 0

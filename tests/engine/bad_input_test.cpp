@@ -1,0 +1,183 @@
+// What the library does with each kind of bad input a user can hand it:
+// paths that are missing, unreadable or folders, empty files, garbage
+// tables, over-long lines. docs/ROBUSTNESS.md lists these cases and names
+// the test behind each.
+#include <gtest/gtest.h>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include "support/engine_fixture.h"
+#include "support/test_files.h"
+#include "tarvola/engine/Tarvola.h"
+#include "tarvola/tables/Taula.h"
+#include "tarvola/tables/cipher.h"
+
+namespace tarvola {
+namespace {
+
+using testing::TempDir;
+
+// An engine built and destroyed quietly; what it prints is not checked here.
+class QuietEngine {
+ public:
+  QuietEngine(const std::string& config, const std::string& dictionary) {
+    ::testing::internal::CaptureStdout();
+    engine_ = new Tarvola(config, dictionary);
+    ::testing::internal::GetCapturedStdout();
+  }
+  ~QuietEngine() {
+    ::testing::internal::CaptureStdout();
+    delete engine_;
+    ::testing::internal::GetCapturedStdout();
+  }
+  QuietEngine(const QuietEngine&) = delete;
+  QuietEngine& operator=(const QuietEngine&) = delete;
+  Tarvola& engine() { return *engine_; }
+
+ private:
+  Tarvola* engine_;
+};
+
+std::size_t token_count(const Paragrafoa& p) {
+  std::size_t n = 0;
+  for (const Esaldia& s : p.esaldiak) n += s.tokenak.size();
+  return n;
+}
+
+std::string fixture_config(const TempDir& dir) {
+  return dir.write("engine.conf", testing::absolute_engine_config());
+}
+
+TEST(BadInput, ConfigurationMissingEmptyOrAFolder) {
+  TempDir dir;
+  const std::string dictionary = testing::data_path("engine_hiztegia.txt");
+  for (const std::string& config : {dir.file("missing.conf"), dir.write("empty.conf", ""), dir.path()}) {
+    QuietEngine e(config, dictionary);
+    // No networks: nothing is found, and a paragraph comes back unsplit.
+    EXPECT_TRUE(e.engine().analizatuTokena("etxea").empty()) << config;
+    EXPECT_TRUE(e.engine().analizatu_paragrafoa(1, "Etxea. Bai.").esaldiak.empty()) << config;
+  }
+}
+
+TEST(BadInput, TableListedButEmptyOrAFolder) {
+  TempDir dir;
+  const std::string empty = dir.write("emptyPG.txt", "");
+  const std::string folder = dir.file("folderPG.txt");
+  ASSERT_EQ(mkdir(folder.c_str(), 0700), 0);
+  const std::string config =
+      dir.write("c.conf", testing::absolute_engine_config() + empty + "\n" + folder + "\n");
+  QuietEngine e(config, testing::data_path("engine_hiztegia.txt"));
+  // Both load as tables without states; the other networks work as before.
+  EXPECT_TRUE(e.engine().analizatuTokena("etxea", "empty").empty());
+  EXPECT_TRUE(e.engine().analizatuTokena("etxea", "folder").empty());
+  EXPECT_FALSE(e.engine().analizatuTokena("etxea", "eumorfo").empty());
+}
+
+// The table's messages go to standard output; in the child of a death test
+// they are sent to standard error, where the expectation can read them.
+void load_with_messages_on_stderr(const std::string& path) {
+  dup2(2, 1);
+  Taula t(path);
+}
+
+TEST(BadInputDeathTest, MissingPlainTableNamesTheFile) {
+  TempDir dir;
+  const std::string path = dir.file("gone.txt");
+  EXPECT_EXIT(load_with_messages_on_stderr(path), ::testing::ExitedWithCode(0),
+              "gone.txt ez da existitzen\\.");
+}
+
+TEST(BadInputDeathTest, GarbageWithALongFieldEndsWithStatusOne) {
+  TempDir dir;
+  std::mt19937 rng(7);
+  std::string garbage;
+  for (int i = 0; i < 4096; ++i) garbage += static_cast<char>(rng() % 256);
+  garbage += std::string(200, 'x');  // at least one field over the limit
+  const std::string path = dir.write("garbage.bin", garbage);
+  EXPECT_EXIT(load_with_messages_on_stderr(path), ::testing::ExitedWithCode(1),
+              "lerroko eremua luzeegia da \\(98 karaktere gehienez\\)");
+}
+
+TEST(BadInputDeathTest, DecipheredLineOverTheLimitEndsWithStatusOne) {
+  TempDir dir;
+  const std::string path = dir.write("longSARE8.bin",
+                                     cipher::encipher("0\ta\t1\n0\ta\t" + std::string(2300, '1') + "\n"));
+  EXPECT_EXIT(load_with_messages_on_stderr(path), ::testing::ExitedWithCode(1),
+              "2\\. lerroa luzeegia da \\(2221 karaktere gehienez\\)");
+}
+
+TEST(BadInput, GarbageInShortLinesLoadsAndEveryLookupEnds) {
+  TempDir dir;
+  std::mt19937 rng(11);
+  std::string garbage;
+  for (int i = 0; i < 20000; ++i) {
+    // No "<": a garbage path spelling a tag of 99 bytes or more would end
+    // the process, which is the tag rule's own case.
+    unsigned r = rng() % 256;
+    if (r == '<') r = 'x';
+    garbage += static_cast<char>(i % 40 == 39 ? '\n' : r % 7 == 0 ? '\t' : r);
+  }
+  const std::string files[] = {dir.write("garbage.txt", garbage),
+                               dir.write("garbageSARE8.bin", cipher::encipher(garbage))};
+  for (const std::string& file : files) {
+    ::testing::internal::CaptureStdout();
+    Taula t(file);
+    ::testing::internal::GetCapturedStdout();
+    for (const char* word : {"etxea", "a", "", "\x01\xff"}) (void)t.analizatuTokena(word);
+    (void)t.sortuFormak("etxe", "<IZE>", false, false);
+    (void)t.sortuFormak("", "", true, false);
+  }
+}
+
+TEST(BadInput, DictionaryMissingEmptyOrAFolder) {
+  TempDir dir;
+  const std::string config = fixture_config(dir);
+  for (const std::string& dictionary :
+       {dir.file("missing.txt"), dir.write("empty.txt", ""), dir.path()}) {
+    QuietEngine e(config, dictionary);
+    // The tables work without the personal words.
+    Paragrafoa p = e.engine().analizatu_paragrafoa(1, "Etxean Getxon.");
+    ASSERT_EQ(token_count(p), 3u) << dictionary;
+    EXPECT_EQ(p.esaldiak[0].tokenak[0].analisiak.front().sarea, "eumorfo");
+  }
+}
+
+#ifndef _WIN32
+TEST(BadInput, UnreadableFilesActAsMissingOnes) {
+  if (geteuid() == 0) GTEST_SKIP() << "permissions do not bind the superuser";
+  TempDir dir;
+  const std::string config = dir.write("c.conf", testing::absolute_engine_config());
+  const std::string dictionary = dir.write("hp.txt", "etxe\t<ARR>\t\t\tHP\n");
+  ASSERT_EQ(chmod(config.c_str(), 0), 0);
+  ASSERT_EQ(chmod(dictionary.c_str(), 0), 0);
+  QuietEngine e(config, dictionary);
+  EXPECT_TRUE(e.engine().analizatuTokena("etxea").empty());
+}
+#endif
+
+TEST(BadInput, EmptyAndBinaryParagraphs) {
+  TempDir dir;
+  QuietEngine e(fixture_config(dir), testing::data_path("engine_hiztegia.txt"));
+  EXPECT_EQ(token_count(e.engine().analizatu_paragrafoa(1, "")), 0u);
+  EXPECT_EQ(token_count(e.engine().analizatu_paragrafoa(1, "     ")), 0u);
+  std::string binary;
+  for (int c = 0; c < 256; ++c) binary += static_cast<char>(c);
+  Paragrafoa p = e.engine().analizatu_paragrafoa(1, binary + binary);
+  EXPECT_GT(token_count(p), 0u);
+  for (const Esaldia& s : p.esaldiak)
+    for (const Tokena& t : s.tokenak) EXPECT_FALSE(t.analisiak.empty());
+  // A "word" of angle brackets longer than a tag may be becomes an unknown
+  // form; the process goes on.
+  Paragrafoa tag = e.engine().analizatu_paragrafoa(1, "<" + std::string(300, 'a') + ">");
+  EXPECT_GT(token_count(tag), 0u);
+}
+
+}  // namespace
+}  // namespace tarvola
