@@ -34,14 +34,6 @@ class IndexSource {
 
   // How many arcs matches() / all_arcs() look at: the walks charge them to
   // their step budgets, so that a state with many arcs costs what it takes.
-  std::size_t match_cost(int s, std::string_view rest) const {
-    const CompactState& st = t_.state(static_cast<std::size_t>(s));
-    std::size_t cost = st.epsilon_count;
-    if (!rest.empty())
-      if (const CompactRun* run = t_.run_for(st, static_cast<unsigned char>(rest[0])))
-        cost += run->count;
-    return cost;
-  }
   std::size_t arc_count(int s) const { return t_.state(static_cast<std::size_t>(s)).arc_count; }
 
   template <typename F>
@@ -105,7 +97,6 @@ class ObjectSource {
   bool guard_cycles() const { return true; }
   bool viable(int, int) const { return true; }
 
-  std::size_t match_cost(int s, std::string_view) const { return arc_count(s); }
   std::size_t arc_count(int s) const { return states_[static_cast<std::size_t>(s)]->zubiak.size(); }
 
   template <typename F>
