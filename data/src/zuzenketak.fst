@@ -12,20 +12,24 @@
 % begins with the lemma exactly: a capitalised standard word ("Hau da",
 % "Euskara" at the start of a sentence), which the case-sensitive drop
 % would miss, is refused too. Generation still finds these paths, since its
-% target (lemma and inflection tags) is a prefix of theirs.
+% target (lemma and inflection tags) is a prefix of theirs. Every reading
+% ends as the main network's does (data/TAGS.md: <MG><ABS> after a bare -en
+% form, <ABS> after a bare number, <BUK> after adverbs, postpositions and
+% finite verbs), so the tags of one form are never the beginning of those
+% of another.
 
 #include "endings.fst"
 
 % uninflected words: non-standard, then standard, with the same tags and mark
 $H$ = \
-  {nere<IOR><PERARR><GEN>\[h\=nire\]}:{nere} | \
-  {nire<IOR><PERARR><GEN><SNB>\[h\=nire\]}:{nire} | \
-  {bezela<POST>\[h\=bezala\]}:{bezela} | \
-  {bezala<POST><SNB>\[h\=bezala\]}:{bezala} | \
+  {nere<IOR><PERARR><GEN><MG><ABS>\[h\=nire\]}:{nere} | \
+  {nire<IOR><PERARR><GEN><MG><ABS><SNB>\[h\=nire\]}:{nire} | \
+  {bezela<POST><BUK>\[h\=bezala\]}:{bezela} | \
+  {bezala<POST><BUK><SNB>\[h\=bezala\]}:{bezala} | \
   {ta<LOT><LOK>\[h\=eta\]}:{ta} | \
   {eta<LOT><LOK><SNB>\[h\=eta\]}:{eta} | \
-  {zan<ADT>\[h\=zen\]}:{zan} | \
-  {zen<ADT><SNB>\[h\=zen\]}:{zen} | \
+  {zan<ADT><PII><NR_HU><BUK>\[h\=zen\]}:{zan} | \
+  {zen<ADT><PII><NR_HU><BUK><SNB>\[h\=zen\]}:{zen} | \
   {det<ADL>\[h\=dut\]}:{det} | \
   {dut<ADL><SNB>\[h\=dut\]}:{dut} | \
   {dezu<ADL>\[h\=duzu\]}:{dezu} | \
@@ -34,20 +38,20 @@ $H$ = \
   {dugu<ADL><SNB>\[h\=dugu\]}:{dugu} | \
   {dezute<ADL>\[h\=duzue\]}:{dezute} | \
   {duzue<ADL><SNB>\[h\=duzue\]}:{duzue} | \
-  {ordun<ADB>\[h\=orduan\]}:{ordun} | \
-  {orduan<ADB><SNB>\[h\=orduan\]}:{orduan} | \
-  {emen<ADB>\[h\=hemen\]}:{emen} | \
-  {hemen<ADB><SNB>\[h\=hemen\]}:{hemen} | \
-  {geo<ADB>\[h\=gero\]}:{geo} | \
-  {gero<ADB><SNB>\[h\=gero\]}:{gero} | \
-  {hoiek<DET><ERKARR><NUMP>\[h\=horiek\]}:{hoiek} | \
-  {horiek<DET><ERKARR><NUMP><SNB>\[h\=horiek\]}:{horiek} | \
-  {hontan<DET><ERKARR><NUMS><INE>\[h\=honetan\]}:{hontan} | \
-  {honetan<DET><ERKARR><NUMS><INE><SNB>\[h\=honetan\]}:{honetan} | \
-  {hortan<DET><ERKARR><NUMS><INE>\[h\=horretan\]}:{hortan} | \
-  {horretan<DET><ERKARR><NUMS><INE><SNB>\[h\=horretan\]}:{horretan} | \
-  {zeatik<ADB><GAL>\[h\=zergatik\]}:{zeatik} | \
-  {zergatik<ADB><GAL><SNB>\[h\=zergatik\]}:{zergatik}
+  {ordun<ADB><BUK>\[h\=orduan\]}:{ordun} | \
+  {orduan<ADB><BUK><SNB>\[h\=orduan\]}:{orduan} | \
+  {emen<ADB><BUK>\[h\=hemen\]}:{emen} | \
+  {hemen<ADB><BUK><SNB>\[h\=hemen\]}:{hemen} | \
+  {geo<ADB><BUK>\[h\=gero\]}:{geo} | \
+  {gero<ADB><BUK><SNB>\[h\=gero\]}:{gero} | \
+  {hoiek<DET><ERKARR><NUMP><ABS>\[h\=horiek\]}:{hoiek} | \
+  {horiek<DET><ERKARR><NUMP><ABS><SNB>\[h\=horiek\]}:{horiek} | \
+  {hontan<DET><ERKARR><NUMS><INE><BUK>\[h\=honetan\]}:{hontan} | \
+  {honetan<DET><ERKARR><NUMS><INE><BUK><SNB>\[h\=honetan\]}:{honetan} | \
+  {hortan<DET><ERKARR><NUMS><INE><BUK>\[h\=horretan\]}:{hortan} | \
+  {horretan<DET><ERKARR><NUMS><INE><BUK><SNB>\[h\=horretan\]}:{horretan} | \
+  {zeatik<ADB><GAL><BUK>\[h\=zergatik\]}:{zeatik} | \
+  {zergatik<ADB><GAL><BUK><SNB>\[h\=zergatik\]}:{zergatik}
 
 $E$ = \
   {baño<LOT><LOK>\[e\=baino\]}:{baño} | \

@@ -44,4 +44,12 @@ TEST(CorrectionsTable, ReplacementKeepsInflectionAndCase) {
   EXPECT_EQ(replacements(net, "hontan"), std::vector<std::string>({"honetan"}));
   EXPECT_EQ(replacements(net, "euskeraren"), std::vector<std::string>({"euskararen", "euskararen"}));
   EXPECT_EQ(replacements(net, "EUSKERAZ"), std::vector<std::string>({"EUSKARAZ", "EUSKARAZ"}));
+  // The plural absolutive's tags are not the beginning of the other plural
+  // cases' (nor the bare form's of the inflected ones), so each reading
+  // brings its own form only.
+  EXPECT_EQ(replacements(net, "EUSKERAK"), std::vector<std::string>({"EUSKARAK", "EUSKARAK", "EUSKARAK"}));
+  EXPECT_EQ(replacements(net, "euskera"), std::vector<std::string>({"euskara", "euskara"}));
+  EXPECT_EQ(replacements(net, "euskeretatik"), std::vector<std::string>({"euskaretatik"}));
+  EXPECT_EQ(replacements(net, "Nere"), std::vector<std::string>({"Nire"}));
+  EXPECT_EQ(replacements(net, "emen"), std::vector<std::string>({"hemen"}));
 }
