@@ -4,17 +4,11 @@
 #include <cstdint>
 #include <set>
 
+#include "tarvola/base/cp1252.h"
+
 namespace tarvola_cli {
 
 namespace {
-
-// Unicode code points of code page 1252's bytes 0x80..0x9F; 0 where the
-// code page leaves the byte undefined.
-constexpr std::uint16_t kHighBlock[32] = {
-    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
-    0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
 constexpr std::array<unsigned char, kPlaceholders> make_placeholders() {
   std::array<unsigned char, kPlaceholders> p{};
@@ -38,48 +32,14 @@ constexpr std::array<bool, 256> kReserved = make_reserved();
 // The code page byte for a code point, or -1 when there is none (or when
 // the byte is reserved for placeholders).
 int cp1252_byte(std::uint32_t cp) {
-  int byte = -1;
-  if (cp < 0x80 || (cp >= 0xA0 && cp <= 0xFF)) {
-    byte = static_cast<int>(cp);
-  } else {
-    for (int i = 0; i < 32; ++i)
-      if (kHighBlock[i] != 0 && kHighBlock[i] == cp) byte = 0x80 + i;
-  }
+  const int byte = tarvola::cp1252::byte_for(cp);
   return byte >= 0 && kReserved[byte] ? -1 : byte;
 }
 
-void append_utf8(std::uint32_t cp, std::string& out) {
-  if (cp < 0x80) {
-    out += static_cast<char>(cp);
-  } else if (cp < 0x800) {
-    out += static_cast<char>(0xC0 | (cp >> 6));
-    out += static_cast<char>(0x80 | (cp & 0x3F));
-  } else {
-    out += static_cast<char>(0xE0 | (cp >> 12));
-    out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-    out += static_cast<char>(0x80 | (cp & 0x3F));
-  }
-}
+void append_utf8(std::uint32_t cp, std::string& out) { tarvola::cp1252::append_utf8(out, cp); }
 
-// Length of the valid UTF-8 sequence at s[0] and its code point; 0 when the
-// bytes there are not one.
 std::size_t utf8_sequence(std::string_view s, std::uint32_t& cp) {
-  const auto b = [&](std::size_t i) { return static_cast<unsigned char>(s[i]); };
-  unsigned char lead = b(0);
-  if (lead < 0x80) {
-    cp = lead;
-    return 1;
-  }
-  std::size_t len = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC0 ? 2 : 0;
-  if (len == 0 || lead > 0xF4 || s.size() < len) return 0;
-  cp = lead & (0x7F >> len);
-  for (std::size_t i = 1; i < len; ++i) {
-    if ((b(i) & 0xC0) != 0x80) return 0;
-    cp = (cp << 6) | (b(i) & 0x3F);
-  }
-  static constexpr std::uint32_t kMin[5] = {0, 0, 0x80, 0x800, 0x10000};
-  if (cp < kMin[len] || cp > 0x10FFFF || (cp >= 0xD800 && cp <= 0xDFFF)) return 0;
-  return len;
+  return tarvola::cp1252::utf8_sequence(s, cp);
 }
 
 }  // namespace
@@ -153,8 +113,8 @@ std::string EnginePiece::restore(std::string_view engine_text, Encoding encoding
       out += originals_[static_cast<std::size_t>(slot_[byte] - 1)];
     else if (encoding == Encoding::kCp1252)
       out += c;
-    else if (byte >= 0x80 && byte < 0xA0 && kHighBlock[byte - 0x80] != 0)
-      append_utf8(kHighBlock[byte - 0x80], out);
+    else if (byte >= 0x80 && byte < 0xA0 && tarvola::cp1252::code_point(byte) != 0)
+      append_utf8(tarvola::cp1252::code_point(byte), out);
     else
       append_utf8(byte, out);
   }

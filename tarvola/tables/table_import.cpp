@@ -4,34 +4,15 @@
 #include <cstdint>
 #include <utility>
 
+#include "tarvola/base/cp1252.h"
 #include "tarvola/base/latin1.h"
 
 namespace tarvola::table_import {
 
 namespace {
 
-// Code page 1252's bytes 0x80..0x9F; 0 where the code page has no character.
-constexpr char16_t kHigh[32] = {
-    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
-    0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
-
 // The longest symbol field the loader accepts.
 constexpr std::size_t kMaxField = 98;
-
-void append_utf8(std::string& out, std::uint32_t cp) {
-  if (cp < 0x80) {
-    out += static_cast<char>(cp);
-  } else if (cp < 0x800) {
-    out += static_cast<char>(0xC0 | (cp >> 6));
-    out += static_cast<char>(0x80 | (cp & 0x3F));
-  } else {
-    out += static_cast<char>(0xE0 | (cp >> 12));
-    out += static_cast<char>(0x80 | ((cp >> 6) & 0x3F));
-    out += static_cast<char>(0x80 | (cp & 0x3F));
-  }
-}
 
 std::vector<std::string_view> split_tabs(std::string_view line) {
   std::vector<std::string_view> fields;
@@ -371,56 +352,9 @@ class Importer {
 
 }  // namespace
 
-bool utf8_to_cp1252(std::string_view text, std::string& out) {
-  out.clear();
-  out.reserve(text.size());
-  for (std::size_t i = 0; i < text.size();) {
-    const auto b = static_cast<unsigned char>(text[i]);
-    std::uint32_t cp;
-    std::size_t len;
-    if (b < 0x80) {
-      cp = b, len = 1;
-    } else if ((b & 0xE0) == 0xC0) {
-      cp = b & 0x1F, len = 2;
-    } else if ((b & 0xF0) == 0xE0) {
-      cp = b & 0x0F, len = 3;
-    } else if ((b & 0xF8) == 0xF0) {
-      cp = b & 0x07, len = 4;
-    } else {
-      return false;
-    }
-    if (i + len > text.size()) return false;
-    for (std::size_t k = 1; k < len; ++k) {
-      const auto c = static_cast<unsigned char>(text[i + k]);
-      if ((c & 0xC0) != 0x80) return false;
-      cp = (cp << 6) | (c & 0x3F);
-    }
-    const std::uint32_t min_for_len[5] = {0, 0, 0x80, 0x800, 0x10000};
-    if (cp < min_for_len[len]) return false;  // overlong form
-    i += len;
-    if (cp < 0x80 || (cp >= 0xA0 && cp <= 0xFF)) {
-      out += static_cast<char>(cp);
-      continue;
-    }
-    const char16_t* hit = std::find(std::begin(kHigh), std::end(kHigh), static_cast<char16_t>(cp));
-    if (cp > 0xFFFF || hit == std::end(kHigh)) return false;
-    out += static_cast<char>(0x80 + (hit - std::begin(kHigh)));
-  }
-  return true;
-}
+bool utf8_to_cp1252(std::string_view text, std::string& out) { return cp1252::from_utf8(text, out); }
 
-std::string cp1252_to_utf8(std::string_view text) {
-  std::string out;
-  out.reserve(text.size() + text.size() / 8);
-  for (char ch : text) {
-    const auto b = static_cast<unsigned char>(ch);
-    if (b >= 0x80 && b < 0xA0 && kHigh[b - 0x80] != 0)
-      append_utf8(out, kHigh[b - 0x80]);
-    else
-      append_utf8(out, b);
-  }
-  return out;
-}
+std::string cp1252_to_utf8(std::string_view text) { return cp1252::to_utf8(text); }
 
 std::map<std::string, std::string> parse_tag_map(std::string_view text, bool utf8,
                                                  std::vector<ImportProblem>& problems) {
