@@ -16,16 +16,21 @@ inline std::string engine_table(const std::string& file) {
   return data_path("tables/engine/" + file);
 }
 
-// The fixture configuration with every entry line prefixed by the data
-// folder; comment and continuation lines are left alone.
-inline std::string absolute_engine_config() {
-  std::istringstream in(read_file(data_path("engine.conf")));
+// A configuration's text with every entry line prefixed by `base`; comment
+// and continuation lines are left alone.
+inline std::string absolute_config(const std::string& config_path, const std::string& base) {
+  std::istringstream in(read_file(config_path));
   std::string out, line;
   while (std::getline(in, line)) {
     bool entry = !line.empty() && line.compare(0, 2, "//") != 0 && line[0] != ' ' && line[0] != '\t';
-    out += (entry ? std::string(TARVOLA_TEST_DATA_DIR) + "/" + line : line) + "\n";
+    out += (entry ? base + "/" + line : line) + "\n";
   }
   return out;
+}
+
+// The fixture configuration, its entries made absolute.
+inline std::string absolute_engine_config() {
+  return absolute_config(data_path("engine.conf"), TARVOLA_TEST_DATA_DIR);
 }
 
 }  // namespace tarvola::testing
