@@ -54,9 +54,8 @@ Runner register_cg3(CLI::App& parent) {
 
   return [args]() {
     const CommonOptions& o = args->common;
-    auto engine = Engine::open(o);
-    if (!engine || !engine->require_network("eumorfo", "to split paragraphs into sentences"))
-      return 2;
+    auto engine = Engine::open_for_paragraphs(o);
+    if (!engine) return 2;
     Output out;
     if (!out.open(o.output, o.unbuffered)) return 2;
     int number = 0;

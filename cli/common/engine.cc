@@ -183,6 +183,13 @@ bool Engine::has_network(const std::string& name) const {
   return false;
 }
 
+std::unique_ptr<Engine> Engine::open_for_paragraphs(const CommonOptions& options) {
+  auto engine = open(options);
+  if (!engine || !engine->require_network("eumorfo", "to split paragraphs into sentences"))
+    return nullptr;
+  return engine;
+}
+
 bool Engine::require_network(const std::string& name, const char* purpose) const {
   if (has_network(name)) return true;
   std::cerr << "tarvola: the configuration has no network \"" << name << "\", needed " << purpose

@@ -40,6 +40,9 @@ class Engine {
   // Null (message printed) when the configuration, a table or the personal
   // dictionary is missing, or when the engine cannot be built.
   static std::unique_ptr<Engine> open(const CommonOptions& options);
+  // The same for the paragraph subcommands, which also need "eumorfo" to
+  // split sentences.
+  static std::unique_ptr<Engine> open_for_paragraphs(const CommonOptions& options);
   Engine(const Engine&) = delete;
   Engine& operator=(const Engine&) = delete;
   ~Engine();
