@@ -1,6 +1,8 @@
 // tarvola dict add|remove|list: the personal dictionary file.
 #include <iostream>
 #include <memory>
+#include <string>
+#include <utility>
 
 #include "commands.h"
 #include "common/encoding.h"
@@ -25,6 +27,25 @@ bool to_file_text(const std::string& text, Encoding encoding, std::string& out) 
   }
   out = decoded.bytes;
   return true;
+}
+
+// What would break the file or the analyses built from a field: a line
+// break or tab starts a new line or column; a "|" ends the lemma when the
+// file is read back; and the lemma and extra texts become part of every
+// analysis of the word, where a "<" opens a tag, one the engine ends the
+// whole process on when it runs past 98 bytes. Empty when the field is fine.
+std::string field_problem(const std::string& text, bool lemma) {
+  if (text.find_first_of("\t\r\n") != std::string::npos) return "a tab or a line break";
+  if (lemma && text.find_first_of("|<>") != std::string::npos) return "\"|\", \"<\" or \">\"";
+  std::size_t open = std::string::npos;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '<' && open == std::string::npos) open = i;
+    if (text[i] == '>' && open != std::string::npos) {
+      if (i - open - 1 > 98) break;
+      open = std::string::npos;
+    }
+  }
+  return open == std::string::npos ? std::string() : "a \"<\" not closed by \">\" within 98 bytes";
 }
 
 bool has_entry(const tarvola::HiztegiPertsonala& d, const std::string& lemma, const std::string& cat) {
@@ -70,6 +91,14 @@ Runner register_dict(CLI::App& parent) {
     }
     tarvola::HiztegiPertsonala dictionary(args->file);
     if (add->parsed()) {
+      for (const auto& [field, text] : {std::pair<const char*, const std::string*>{"word", &lemma},
+                                        {"--extra1", &extra1}, {"--extra2", &extra2}}) {
+        const std::string problem = field_problem(*text, text == &lemma);
+        if (problem.empty()) continue;
+        std::cerr << "tarvola: the " << field << " holds " << problem
+                  << ", which the dictionary file cannot keep\n";
+        return 2;
+      }
       bool known = false;
       for (const char* c : kCategories) known = known || category == c;
       if (!known || lemma.size() < 2) {

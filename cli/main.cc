@@ -1,42 +1,7 @@
 // tarvola: Basque morphological analysis from the command line.
 //
 // Each subcommand lives in its own file and registers itself with the
-// parser; it returns what to run once the arguments are parsed. Exit status:
-// 0 success, 1 a negative answer (an invalid word, a table with problems),
-// 2 an error (a missing file, bad arguments).
-#include <iostream>
-#include <utility>
-#include <vector>
+// parser (tool.cc); it returns what to run once the arguments are parsed.
+#include "tool.h"
 
-#include <CLI/CLI.hpp>
-
-#include "commands.h"
-#include "common/io.h"
-
-int main(int argc, char** argv) {
-  using namespace tarvola_cli;
-  CLI::App app{"tarvola: Basque morphological analysis, correction and generation"};
-  app.set_version_flag("--version", std::string("tarvola ") + TARVOLA_VERSION_TEXT);
-  app.require_subcommand(1);
-
-  std::vector<std::pair<CLI::App*, Runner>> commands;
-  for (auto reg : {register_analyze, register_check, register_cg3, register_multext,
-                   register_generate, register_valid, register_suggest, register_dict,
-                   register_table}) {
-    Runner run = reg(app);
-    commands.emplace_back(app.get_subcommands([](CLI::App*) { return true; }).back(),
-                          std::move(run));
-  }
-
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& e) {
-    int code = app.exit(e);
-    return code == 0 ? 0 : 2;
-  }
-  // From here on the library's messages cannot reach the results.
-  route_stdout();
-  for (auto& [sub, run] : commands)
-    if (sub->parsed()) return run();
-  return 2;
-}
+int main(int argc, char** argv) { return tarvola_cli::run_tool(argc, argv); }

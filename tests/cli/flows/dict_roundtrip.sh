@@ -17,6 +17,16 @@ status=0; "$TOOL" dict --dict d.txt remove mahai '<ARR>' 2>/dev/null || status=$
 [ $status = 1 ] || fail "removing an absent word: status $status"
 status=0; "$TOOL" dict --dict d.txt add etxe '<IZE>' 2>/dev/null || status=$?
 [ $status = 2 ] || fail "unknown category: status $status"
+# Fields that would break the file or end a later analysis are refused,
+# the file left as it was.
+cp d.txt before.txt
+for word in 'a<b' $'bi\nlerro' 'x|y'; do
+  status=0; "$TOOL" dict --dict d.txt add "$word" '<ARR>' 2>/dev/null || status=$?
+  [ $status = 2 ] || fail "lemma '$word' accepted: status $status"
+done
+status=0; "$TOOL" dict --dict d.txt add hitz '<ARR>' --extra1 '<ireki' 2>/dev/null || status=$?
+[ $status = 2 ] || fail "open tag in an extra accepted: status $status"
+cmp -s before.txt d.txt || fail "refused words changed the file: $(cat d.txt)"
 status=0; "$TOOL" dict --dict none.txt list 2>/dev/null || status=$?
 [ $status = 2 ] || fail "missing dictionary: status $status"
 exit 0
