@@ -6,6 +6,7 @@
 
 #include "commands.h"
 #include "common/io.h"
+#include "common/json.h"
 #include "common/table_report.h"
 #include "tarvola/tables/cipher.h"
 #ifdef TARVOLA_CLI_HAVE_IMPORT
@@ -86,7 +87,10 @@ Runner register_table(CLI::App& parent) {
         object[key] = value;
         body += std::string(key) + "\t" + std::to_string(value) + "\n";
       }
-      out.write(a->format == "json" ? object.dump() + "\n" : body);
+      if (a->format == "json")
+        write_json_line(out, object);
+      else
+        out.write(body);
       return out.close() ? 0 : 2;
     }
     std::string result;

@@ -113,9 +113,10 @@ class Sandbox {
   std::map<fs::path, std::string> files_;
 };
 
+// Removed when the fuzzing process exits normally.
 Sandbox& sandbox() {
-  static Sandbox* const instance = new Sandbox;
-  return *instance;
+  static Sandbox instance;
+  return instance;
 }
 
 struct Invocation {
@@ -150,12 +151,8 @@ bool may_suggest(const Invocation& call) {
 }  // namespace
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
-  const fs::path& root = sandbox().root();
-  if (setenv("TARVOLA_CONFIG", (root / "engine.conf").c_str(), 1) != 0)
+  if (setenv("TARVOLA_CONFIG", (sandbox().root() / "engine.conf").c_str(), 1) != 0)
     tarvola::fuzz::fail("cannot set the configuration");
-  std::error_code ec;
-  fs::current_path(root, ec);
-  if (ec) tarvola::fuzz::fail("cannot enter the sandbox");
   return 0;
 }
 
@@ -170,6 +167,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   write_all(sandbox().stdin_path(), call.text);
   if (!std::freopen(sandbox().stdin_path().c_str(), "rb", stdin)) tarvola::fuzz::fail("no stdin");
 
+  // libFuzzer's own paths may be relative: the sandbox is the working
+  // folder only while the tool runs.
+  std::error_code ec;
+  const fs::path here = fs::current_path(ec);
+  fs::current_path(sandbox().root(), ec);
+  if (ec) tarvola::fuzz::fail("cannot enter the sandbox");
   std::vector<char*> argv;
   std::string program = "tarvola";
   argv.push_back(program.data());
@@ -178,8 +181,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const int status = tarvola_cli::run_tool(static_cast<int>(argv.size() - 1), argv.data());
   if (status < 0 || status > 2) tarvola::fuzz::fail("exit status outside 0-2");
 
-  sandbox().restore();
-  std::error_code ec;
   if (fs::current_path(ec) != sandbox().root()) tarvola::fuzz::fail("working folder changed");
+  fs::current_path(here, ec);
+  sandbox().restore();
   return 0;
 }

@@ -32,7 +32,7 @@ for h in $harnesses; do
   mkdir -p "$work" "$findings"
   seeds=$root/fuzz/corpus/$h
   extra=""
-  if { [ "$h" = paragraph ] || [ "$h" = cli_input ]; } && [ -d "$corpus_text" ]; then
+  if [ "$h" = paragraph ] && [ -d "$corpus_text" ]; then
     # A few short slices of real text in both encodings.
     mkdir -p "$build/fuzz-seeds/paragraph"
     for f in eu-ud-dev.txt eu-ud-dev.cp1252.txt eu-messages.txt eu-news.cp1252.txt; do
@@ -41,12 +41,25 @@ for h in $harnesses; do
     done
     extra=$build/fuzz-seeds/paragraph
   fi
+  if [ "$h" = cli_input ] && [ -d "$corpus_text" ]; then
+    # The same kind of slices as the standard input of the paragraph
+    # subcommands (the harness reads arguments, two NULs, then the text).
+    mkdir -p "$build/fuzz-seeds/cli_input"
+    for f in eu-ud-dev.txt eu-messages.txt; do
+      [ -f "$corpus_text/$f" ] || continue
+      for sub in check cg3 multext; do
+        { printf '%s\0\0' "$sub"; head -n 8 "$corpus_text/$f"; } > "$build/fuzz-seeds/cli_input/$sub.$f"
+      done
+    done
+    extra=$build/fuzz-seeds/cli_input
+  fi
   options="-timeout=1 -rss_limit_mb=2048 -print_final_stats=1"
   case $h in
     table_text | enciphered_table) options="$options -dict=$root/fuzz/table.dict -max_len=16384" ;;
     dictionary) options="$options -dict=$root/fuzz/dictionary.dict -max_len=4096" ;;
     paragraph) options="$options -max_len=20000" ;;
-    cli_input) options="$options -max_len=4000" ;;
+    # The tool's messages and results would bury libFuzzer's own lines.
+    cli_input) options="$options -dict=$root/fuzz/cli.dict -max_len=4000 -close_fd_mask=3" ;;
   esac
   echo "== $h: $seconds s"
   # shellcheck disable=SC2086

@@ -19,8 +19,10 @@ nlohmann::ordered_json readings_json(const std::vector<tarvola::Analisia>& readi
   return list;
 }
 
+// Text that is not UTF-8 is passed through the tool unchanged, but JSON
+// must be UTF-8: such bytes are written as U+FFFD instead.
 void write_json_line(Output& out, const nlohmann::ordered_json& object) {
-  out.write(object.dump());
+  out.write(object.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace));
   out.write("\n");
   out.end_item();
 }

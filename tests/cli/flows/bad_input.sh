@@ -11,6 +11,13 @@ printf '   \n\t\n\n' | "$TOOL" multext --config "$conf" -b > blank.txt 2> blank.
   || fail "blank text: exit $?"
 [ ! -s blank.txt ] || fail "blank text gave output: $(head -c 200 blank.txt)"
 
+# Bytes that are not UTF-8 pass through the text outputs, but JSON must be
+# UTF-8: they come out as U+FFFD.
+printf 'etxea\ngiz\xfe\xff\xfca\n' | "$TOOL" analyze --config "$conf" --format json > bad.json \
+  2> bad.err || fail "malformed UTF-8 to JSON: exit $?"
+grep -q $'"word":"giz\xef\xbf\xbd' bad.json || fail "no replacement character: $(cat bad.json)"
+iconv -f UTF-8 -t UTF-8 bad.json > /dev/null || fail "JSON output is not UTF-8"
+
 # Enough text that the tool is still writing when head has gone.
 for i in $(seq 1 20000); do echo "Etxea ona da."; done > many.txt
 set +o pipefail
