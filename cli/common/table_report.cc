@@ -72,7 +72,13 @@ TableReport inspect_table(std::string_view bytes, bool enciphered) {
   }
 
   const long count = r.stats.states;
-  std::vector<std::vector<std::pair<int, std::size_t>>> eps(static_cast<std::size_t>(std::max(count, 0L)));
+  // A garbled state number must not make the report allocate for it either.
+  const bool plausible = tt::plausible_state_count(count, enciphered ? deciphered.size() : bytes.size());
+  if (!plausible)
+    r.problems.push_back({0, "state count " + std::to_string(count) +
+                                 " is more than the text could fill: the loader refuses the table"});
+  std::vector<std::vector<std::pair<int, std::size_t>>> eps(
+      plausible ? static_cast<std::size_t>(std::max(count, 0L)) : 0);
   std::set<int> finals;
   std::set<std::string_view> uppers, lowers;
   std::set<std::pair<std::string_view, std::string_view>> pairs;
@@ -113,7 +119,7 @@ TableReport inspect_table(std::string_view bytes, bool enciphered) {
                                             std::to_string(count) + " states)"});
         if (t.lower.empty()) {
           ++r.stats.epsilon_arcs;
-          if (in_range(t.state) && in_range(t.target))
+          if (plausible && in_range(t.state) && in_range(t.target))
             eps[static_cast<std::size_t>(t.state)].push_back({t.target, number});
         } else {
           lowers.insert(t.lower);

@@ -119,10 +119,6 @@ bool for_each_deciphered_line(std::string_view text, LoadReport& report, F&& f) 
   return true;
 }
 
-bool plausible(long count, std::size_t text_size) {
-  return count <= static_cast<long>(text_size / 2) + 1024;
-}
-
 void apply(const TableLine& line, std::vector<Egoera*>& states) {
   if (line.kind != LineKind::kFinal && line.kind != LineKind::kArc) return;
   if (line.state < 0 || static_cast<std::size_t>(line.state) >= states.size()) return;
@@ -176,7 +172,7 @@ void load_line(std::string_view text_line, std::size_t number, std::vector<Egoer
 // Adds the counted states, unless the count cannot be right for this text.
 bool make_states(std::string_view text, std::vector<Egoera*>& states, LoadReport& report) {
   if (report.problem != LoadReport::kNone) return false;
-  if (!plausible(report.states, text.size())) {
+  if (!plausible_state_count(report.states, text.size())) {
     report.problem = LoadReport::kTooManyStates;
     return false;
   }
@@ -185,6 +181,10 @@ bool make_states(std::string_view text, std::vector<Egoera*>& states, LoadReport
 }
 
 }  // namespace
+
+bool plausible_state_count(long count, std::size_t text_size) {
+  return count <= static_cast<long>(text_size / 2) + 1024;
+}
 
 LoadReport load_plain(std::string_view text, std::vector<Egoera*>& states) {
   LoadReport report;

@@ -84,6 +84,11 @@ TARVOLA_API long count_plain(std::string_view text);
 // reported in `report`.
 TARVOLA_API long count_deciphered(std::string_view text, LoadReport& report);
 
+// Whether `count` states could be right for a text of `text_size` bytes
+// (at most half a state per byte, and some slack for tiny tables): a larger
+// count comes from a garbled state number and would allocate for nothing.
+TARVOLA_API bool plausible_state_count(long count, std::size_t text_size);
+
 // Both passes over plain / deciphered text: appends the counted number of
 // states to `states`, then applies every line. Arcs and finals that name a
 // state outside the vector are skipped. A state count that the text cannot

@@ -39,6 +39,11 @@ TEST(table_report, faults_the_loader_would_trip_on) {
                 "5 field of 99 bytes or more: the loader ends the process",
                 "6 state 1 after state 2: states must come in ascending order",
                 "7 arc from state 2 to state 0 closes a cycle of arcs that consume nothing"}));
+  // A garbled state number: reported, and nothing allocated for it.
+  const std::vector<std::string> garbled = messages(inspect_table("0\ta\t1\nfinal: 1\n1777777777\tb\t1\n", false));
+  ASSERT_FALSE(garbled.empty());
+  EXPECT_EQ(garbled.front(),
+            "0 state count 1777777778 is more than the text could fill: the loader refuses the table");
   EXPECT_EQ(messages(inspect_table("0\ta\t1\n", false)),
             (std::vector<std::string>{"0 no final state: the table recognises nothing",
                                       "1 target state 1 out of range (the table counts 1 states)"}));
