@@ -38,8 +38,8 @@ constexpr std::size_t kMaxArguments = 24;
 // A suggestion search costs tens of milliseconds per long unknown word,
 // twenty times that under the sanitizers (see paragraph_fuzz.cpp): an input
 // that may ask for suggestions keeps its arguments and text short.
-constexpr std::size_t kMaxSuggestedArgument = 24;
-constexpr std::size_t kMaxSuggestedText = 100;
+constexpr std::size_t kMaxSuggestedArgument = 10;
+constexpr std::size_t kMaxSuggestedText = 10;
 
 std::string read_all(const fs::path& path) {
   std::ifstream in(path, std::ios::binary);
