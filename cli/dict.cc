@@ -7,6 +7,7 @@
 #include "commands.h"
 #include "common/encoding.h"
 #include "common/io.h"
+#include "tarvola/base/tags.h"
 #include "tarvola/userdict/HiztegiPertsonala.h"
 
 namespace tarvola_cli {
@@ -33,7 +34,8 @@ bool to_file_text(const std::string& text, Encoding encoding, std::string& out) 
 // break or tab starts a new line or column; a "|" ends the lemma when the
 // file is read back; and the lemma and extra texts become part of every
 // analysis of the word, where a "<" opens a tag, one the engine ends the
-// whole process on when it runs past 98 bytes. Empty when the field is fine.
+// whole process on when it runs past tags::kMaxTagLength bytes. Empty when
+// the field is fine.
 std::string field_problem(const std::string& text, bool lemma) {
   if (text.find_first_of("\t\r\n") != std::string::npos) return "a tab or a line break";
   if (lemma && text.find_first_of("|<>") != std::string::npos) return "\"|\", \"<\" or \">\"";
@@ -41,7 +43,7 @@ std::string field_problem(const std::string& text, bool lemma) {
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (text[i] == '<' && open == std::string::npos) open = i;
     if (text[i] == '>' && open != std::string::npos) {
-      if (i - open - 1 > 98) break;
+      if (i - open - 1 > tarvola::tags::kMaxTagLength) break;
       open = std::string::npos;
     }
   }
