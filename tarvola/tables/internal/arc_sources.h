@@ -26,6 +26,9 @@ namespace tarvola::internal {
 
 class IndexSource {
  public:
+  // Symbols lie in the padded pool (see kSymbolPadding).
+  static constexpr bool kPaddedSymbols = true;
+
   explicit IndexSource(const CompactTable& t) : t_(t), arcs_(t.arcs()), pool_(t.pool()) {}
 
   bool valid(int s) const { return static_cast<std::size_t>(s) < t_.state_count(); }
@@ -89,6 +92,8 @@ class IndexSource {
 
 class ObjectSource {
  public:
+  static constexpr bool kPaddedSymbols = false;
+
   explicit ObjectSource(const std::vector<Egoera*>& states) : states_(states) {}
 
   bool valid(int s) const {

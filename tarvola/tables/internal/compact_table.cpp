@@ -119,6 +119,10 @@ CompactTable::CompactTable(const std::vector<Egoera*>& states)
       }
     }
   }
+  // Walks copy a short symbol with one fixed-size move that may read past
+  // its end: the pool ends in that many spare bytes.
+  pool_.append(kSymbolPadding, '\0');
+  state_count_ = states_.size();
   std::vector<std::uint32_t> order;
   find_epsilon_cycles(order);
   compute_closures(order);

@@ -53,6 +53,10 @@ struct CompactState {
   std::int32_t dense_row;       // row of 256 run numbers, or -1
 };
 
+// Bytes readable past the start of any symbol in the pool (see
+// OutputArea::append_padded).
+inline constexpr std::size_t kSymbolPadding = 8;
+
 class CompactTable {
  public:
   // Builds the index from the states as they stand. Symbols longer than
@@ -61,7 +65,7 @@ class CompactTable {
   explicit CompactTable(const std::vector<Egoera*>& states);
 
   bool ok() const { return ok_; }
-  std::size_t state_count() const { return states_.size(); }
+  std::size_t state_count() const { return state_count_; }
   // Whether some cycle of epsilon arcs exists; walks then watch for it.
   bool has_epsilon_cycle() const { return epsilon_cycle_; }
 
@@ -108,6 +112,7 @@ class CompactTable {
   std::string pool_;
   std::vector<std::uint64_t> closure_bytes_;  // 4 words (256 bits) per state
   std::vector<std::uint8_t> closure_final_;
+  std::size_t state_count_ = 0;  // states_.size(), kept for the hot path
   bool ok_ = true;
   bool epsilon_cycle_ = false;
   const void* source_data_ = nullptr;

@@ -28,18 +28,13 @@ unsigned tag_flags(std::string_view s) {
   return flags;
 }
 
-}  // namespace
-
-bool maiuskulaIragazkia(std::string_view word, std::string_view analysis) {
+bool capitals_pass(std::string_view word, std::string_view analysis, unsigned flags) {
   const bool lower_word = !word.empty() && latin1::is_ascii_lower(word[0]);
   if (lower_word && !analysis.empty() && latin1::is_ascii_upper(analysis[0])) return false;
-  const unsigned flags = tag_flags(analysis);
   if (lower_word && (flags & kProperNoun)) return false;
   if (!(flags & kSymbol)) return true;
   return tags::starts_with(word, tags::lemma_of(analysis));
 }
-
-namespace {
 
 // Every reading of the first list holds a blank; the others need "<PSP>".
 constexpr std::string_view kFixedReadings[] = {
@@ -50,17 +45,30 @@ constexpr std::string_view kWithPostposition[] = {
     "baina<", "bat<IZE>", "bate<IZE>", "bata<IZE>", "gara<IZE>",
     "ondo<IZE>", "bera<ADJ>", "be<IZE>", "zut<ADJ>"};
 
-}  // namespace
-
-bool salbuespenIragazkia(std::string_view analysis) {
-  if (contains(analysis, " ")) {
+bool exceptions_pass(std::string_view analysis, unsigned flags) {
+  if (analysis.find(' ') != std::string_view::npos) {
     for (std::string_view fixed : kFixedReadings)
       if (contains(analysis, fixed)) return false;
   }
-  if (!contains(analysis, "<PSP>")) return true;
+  if (!(flags & kPostposition)) return true;
   for (std::string_view word : kWithPostposition)
     if (contains(analysis, word)) return false;
   return !(contains(analysis, "ondorengo") && contains(analysis, "<ELI_IZE>"));
+}
+
+}  // namespace
+
+bool maiuskulaIragazkia(std::string_view word, std::string_view analysis) {
+  return capitals_pass(word, analysis, tag_flags(analysis));
+}
+
+bool salbuespenIragazkia(std::string_view analysis) {
+  return exceptions_pass(analysis, tag_flags(analysis));
+}
+
+bool filters_pass(std::string_view word, std::string_view analysis) {
+  const unsigned flags = tag_flags(analysis);
+  return capitals_pass(word, analysis, flags) && exceptions_pass(analysis, flags);
 }
 
 }  // namespace tarvola::internal

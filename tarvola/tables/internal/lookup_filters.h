@@ -16,6 +16,8 @@ namespace tarvola::internal {
 
 bool maiuskulaIragazkia(std::string_view word, std::string_view analysis);
 bool salbuespenIragazkia(std::string_view analysis);
+// Both, with one scan of the analysis for the tags they ask about.
+bool filters_pass(std::string_view word, std::string_view analysis);
 
 }  // namespace tarvola::internal
 

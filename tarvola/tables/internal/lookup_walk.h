@@ -25,6 +25,7 @@
 #include <vector>
 
 #include "tarvola/base/latin1.h"
+#include "tarvola/tables/internal/compact_table.h"
 #include "tarvola/tables/internal/lookup_filters.h"
 
 namespace tarvola::internal {
@@ -83,10 +84,17 @@ class OutputArea {
     for (char c : s) *out++ = c;
     size_ += s.size();
   }
+  // The same for a symbol followed by at least kSymbolPadding readable
+  // bytes: a short one moves in one fixed-size copy, whatever its length.
+  void append_padded(std::string_view s) {
+    if (s.size() > kSymbolPadding) return append(s);
+    std::memcpy(data_ + size_, s.data(), kSymbolPadding);
+    size_ += s.size();
+  }
   void cut(std::size_t size) { size_ = size; }
 
  private:
-  char data_[kMaxOutput + 1];
+  char data_[kMaxOutput + kSymbolPadding];
   std::size_t size_ = 0;
 };
 
@@ -117,9 +125,7 @@ class LookupWalk {
     if (++steps_ > kMaxSteps) stopped_ = true;
     if (stopped_) return;
     if (state < 0) {
-      if (pos == walked_size_ && maiuskulaIragazkia(given_, output_.view()) &&
-          salbuespenIragazkia(output_.view()))
-        accept();
+      if (pos == walked_size_ && filters_pass(given_, output_.view())) accept();
       return;
     }
     if (!source_.valid(state) || depth >= kMaxDepth) return;
@@ -154,7 +160,10 @@ class LookupWalk {
       path_.push_back({target, next});
     }
     const std::size_t mark = output_.size();
-    output_.append(upper);
+    if constexpr (Source::kPaddedSymbols)
+      output_.append_padded(upper);
+    else
+      output_.append(upper);
     walk(target, next, depth + 1);
     output_.cut(mark);
     if (guarded) path_.pop_back();
