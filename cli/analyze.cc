@@ -12,7 +12,6 @@ namespace tarvola_cli {
 Runner register_analyze(CLI::App& parent) {
   struct Args {
     CommonOptions common;
-    std::vector<std::string> words, files;
     std::string network;
   };
   auto args = std::make_shared<Args>();
@@ -21,23 +20,18 @@ Runner register_analyze(CLI::App& parent) {
       "Every reading of each word: all networks, then the personal dictionary.\n"
       "Text output: WORD<TAB>ANALYSIS<TAB>NETWORK per reading, WORD<TAB>+? when there is\n"
       "none, and a blank line after each word.");
-  app->add_option("words", args->words, "Words (none: one word per line from --file or stdin)");
-  app->add_option("-f,--file", args->files, "Read words from this file, one a line ('-': stdin)");
+  add_word_inputs(*app, args->common, "Words (none: one word per line from --file or stdin)");
   app->add_option("--network", args->network, "Only this network (no personal dictionary)");
-  add_engine_options(*app, args->common);
-  add_io_options(*app, args->common, true);
+  add_engine_options(*app, args->common, true);
 
   return [args]() {
     const CommonOptions& o = args->common;
-    auto engine = Engine::open(o);
-    if (!engine) return 2;
-    if (!args->network.empty() && !engine->require_network(args->network, "by --network"))
-      return 2;
+    std::vector<Engine::Need> needs;
+    if (!args->network.empty()) needs.push_back({args->network, "by --network"});
+    auto engine = Engine::open(o, needs);
     Output out;
-    if (!out.open(o.output, o.unbuffered)) return 2;
-    bool read_ok = for_each_line_item(args->words, args->files, [&](const std::string& word) {
-      EnginePiece piece;
-      if (!engine_text(word, o.text_encoding(), piece)) return;
+    if (!engine || !out.open(o.output, o.unbuffered)) return 2;
+    bool read_ok = for_each_word(o.words, o, [&](const std::string& word, const EnginePiece& piece) {
       std::vector<tarvola::Analisia> readings =
           args->network.empty() ? engine->get().analizatuTokena(piece.text())
                                 : engine->get().analizatuTokena(piece.text(), args->network);
@@ -50,12 +44,11 @@ Runner register_analyze(CLI::App& parent) {
                               {"readings", readings_json(readings, piece)}});
         return;
       }
+      std::vector<std::string> lines;
       for (const tarvola::Analisia& a : readings)
-        out.write(word + "\t" + piece.restore(a.analisia, o.text_encoding()) + "\t" +
-                  piece.restore(a.sarea, o.text_encoding()) + "\n");
-      if (readings.empty()) out.write(word + "\t+?\n");
-      out.write("\n");
-      out.end_item();
+        lines.push_back(piece.restore(a.analisia, o.text_encoding()) + "\t" +
+                        piece.restore(a.sarea, o.text_encoding()));
+      write_results(out, word, lines);
     });
     return out.close() && read_ok ? 0 : 2;
   };

@@ -49,15 +49,13 @@ Runner register_cg3(CLI::App& parent) {
   app->add_flag("--attributes", args->attributes, "Add each reading's mark values <s=.. h=.. e=..>");
   app->add_flag("--vislcg3", args->vislcg3,
                 "Write word cohorts as \"<form>\" so that vislcg3 reads them");
-  add_engine_options(*app, args->common);
-  add_io_options(*app, args->common, false);
+  add_engine_options(*app, args->common, false);
 
   return [args]() {
     const CommonOptions& o = args->common;
     auto engine = Engine::open_for_paragraphs(o);
-    if (!engine) return 2;
     Output out;
-    if (!out.open(o.output, o.unbuffered)) return 2;
+    if (!engine || !out.open(o.output, o.unbuffered)) return 2;
     int number = 0;
     bool read_ok = for_each_paragraph(o, [&](const EnginePiece& piece) {
       tarvola::Paragrafoa p = engine->get().analizatu_paragrafoa(++number, piece.text());

@@ -21,15 +21,13 @@ Runner register_check(CLI::App& parent) {
   add_text_inputs(*app, args->common);
   app->add_flag("--suggest", args->suggest,
                 "Also run the (slower) spelling suggestion search for unknown words");
-  add_engine_options(*app, args->common);
-  add_io_options(*app, args->common, false);
+  add_engine_options(*app, args->common, false);
 
   return [args]() {
     const CommonOptions& o = args->common;
     auto engine = Engine::open_for_paragraphs(o);
-    if (!engine) return 2;
     Output out;
-    if (!out.open(o.output, o.unbuffered)) return 2;
+    if (!engine || !out.open(o.output, o.unbuffered)) return 2;
     bool read_ok = for_each_paragraph(o, [&](const EnginePiece& piece) {
       out.write(piece.restore(engine->get().getParagrafoaBrindel(piece.text(), args->suggest),
                               o.text_encoding()));

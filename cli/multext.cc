@@ -19,15 +19,13 @@ Runner register_multext(CLI::App& parent) {
       "Multext-style lines: FORM<TAB>BOS|EOS|<TAB>LEMMA\\TAGS|... per token, sentence by sentence.");
   add_text_inputs(*app, args->common);
   app->add_flag("--attributes", args->attributes, "Add each reading's mark values <s=.. h=.. e=..>");
-  add_engine_options(*app, args->common);
-  add_io_options(*app, args->common, false);
+  add_engine_options(*app, args->common, false);
 
   return [args]() {
     const CommonOptions& o = args->common;
     auto engine = Engine::open_for_paragraphs(o);
-    if (!engine) return 2;
     Output out;
-    if (!out.open(o.output, o.unbuffered)) return 2;
+    if (!engine || !out.open(o.output, o.unbuffered)) return 2;
     // The rendering prints to standard output by design: it is caught in a
     // temporary file and moved to the results.
     StdoutCapture capture;

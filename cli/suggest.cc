@@ -11,29 +11,22 @@ namespace tarvola_cli {
 Runner register_suggest(CLI::App& parent) {
   struct Args {
     CommonOptions common;
-    std::vector<std::string> words, files;
   };
   auto args = std::make_shared<Args>();
   CLI::App* app = parent.add_subcommand(
       "suggest",
       "Spelling suggestions for each word: WORD<TAB>SUGGESTION per suggestion, WORD<TAB>+?\n"
       "when there is none, a blank line after each word.");
-  app->add_option("words", args->words, "Words (none: one a line from --file or stdin)");
-  app->add_option("-f,--file", args->files, "Read words from this file, one a line ('-': stdin)");
-  add_engine_options(*app, args->common);
-  add_io_options(*app, args->common, true);
+  add_word_inputs(*app, args->common);
+  add_engine_options(*app, args->common, true);
 
   return [args]() {
     const CommonOptions& o = args->common;
-    auto engine = Engine::open(o);
-    if (!engine || !engine->require_network("hp", "for the personal dictionary") ||
-        !engine->require_network("eumorfo", "to check candidates"))
-      return 2;
+    auto engine = Engine::open(
+        o, {{"hp", "for the personal dictionary"}, {"eumorfo", "to check candidates"}});
     Output out;
-    if (!out.open(o.output, o.unbuffered)) return 2;
-    bool read_ok = for_each_line_item(args->words, args->files, [&](const std::string& word) {
-      EnginePiece piece;
-      if (!engine_text(word, o.text_encoding(), piece)) return;
+    if (!engine || !out.open(o.output, o.unbuffered)) return 2;
+    bool read_ok = for_each_word(o.words, o, [&](const std::string& word, const EnginePiece& piece) {
       std::vector<std::string> found = engine->get().lortu_ezzg_proposamenak(piece.text());
       if (o.json()) {
         nlohmann::ordered_json list = nlohmann::ordered_json::array();
@@ -42,11 +35,8 @@ Runner register_suggest(CLI::App& parent) {
                               {"suggestions", list}});
         return;
       }
-      for (const std::string& s : found)
-        out.write(word + "\t" + piece.restore(s, o.text_encoding()) + "\n");
-      if (found.empty()) out.write(word + "\t+?\n");
-      out.write("\n");
-      out.end_item();
+      for (std::string& s : found) s = piece.restore(s, o.text_encoding());
+      write_results(out, word, found);
     });
     return out.close() && read_ok ? 0 : 2;
   };

@@ -11,7 +11,6 @@ namespace tarvola_cli {
 Runner register_valid(CLI::App& parent) {
   struct Args {
     CommonOptions common;
-    std::vector<std::string> words, files;
     bool prefixes = false;
   };
   auto args = std::make_shared<Args>();
@@ -19,38 +18,32 @@ Runner register_valid(CLI::App& parent) {
       "valid",
       "Whether each word is valid standard Basque: WORD<TAB>valid|invalid per word.\n"
       "Exit status 0 when all are valid, 1 when one is not, 2 on error.");
-  app->add_option("words", args->words, "Words (none: one a line from --file or stdin)");
-  app->add_option("-f,--file", args->files, "Read words from this file, one a line ('-': stdin)");
+  add_word_inputs(*app, args->common);
   app->add_flag("--prefixes", args->prefixes,
                 "Also accept a word that begins some standard word form");
-  add_engine_options(*app, args->common);
-  add_io_options(*app, args->common, true);
+  add_engine_options(*app, args->common, true);
 
   return [args]() {
     const CommonOptions& o = args->common;
-    auto engine = Engine::open(o);
-    if (!engine || !engine->require_network("hp", "for the personal dictionary") ||
-        !engine->require_network("eumorfo", "to check words"))
-      return 2;
+    auto engine = Engine::open(
+        o, {{"hp", "for the personal dictionary"}, {"eumorfo", "to check words"}});
     Output out;
-    if (!out.open(o.output, o.unbuffered)) return 2;
+    if (!engine || !out.open(o.output, o.unbuffered)) return 2;
     bool all_valid = true;
-    bool read_ok = for_each_line_item(args->words, args->files, [&](const std::string& word) {
-      EnginePiece piece;
-      if (!engine_text(word, o.text_encoding(), piece)) {
-        all_valid = false;
-        return;
-      }
+    std::size_t unreadable = 0;  // a word the engine cannot be given is not valid
+    auto check = [&](const std::string& word, const EnginePiece& piece) {
       bool valid = engine->get().isValid(piece.text(), args->prefixes);
       all_valid = all_valid && valid;
-      if (o.json())
+      if (o.json()) {
         write_json_line(out, {{"word", piece.restore(piece.text(), Encoding::kUtf8)}, {"valid", valid}});
-      else
-        out.write(word + (valid ? "\tvalid\n" : "\tinvalid\n"));
+        return;
+      }
+      out.write(word + (valid ? "\tvalid\n" : "\tinvalid\n"));
       out.end_item();
-    });
+    };
+    bool read_ok = for_each_word(o.words, o, check, &unreadable);
     if (!out.close() || !read_ok) return 2;
-    return all_valid ? 0 : 1;
+    return all_valid && unreadable == 0 ? 0 : 1;
   };
 }
 

@@ -130,7 +130,7 @@ bool read_config(const fs::path& config, std::vector<NetworkEntry>& entries) {
   return true;
 }
 
-std::unique_ptr<Engine> Engine::open(const CommonOptions& options) {
+std::unique_ptr<Engine> Engine::open(const CommonOptions& options, const std::vector<Need>& needs) {
   std::unique_ptr<Engine> engine(new Engine());
   engine->verbose_ = options.verbose;
   fs::path config = find_config(options.config);
@@ -164,6 +164,8 @@ std::unique_ptr<Engine> Engine::open(const CommonOptions& options) {
               << failure << "\n";
     return nullptr;
   }
+  for (const Need& need : needs)
+    if (!engine->require_network(need.network, need.purpose)) return nullptr;
   return engine;
 }
 
@@ -184,10 +186,7 @@ bool Engine::has_network(const std::string& name) const {
 }
 
 std::unique_ptr<Engine> Engine::open_for_paragraphs(const CommonOptions& options) {
-  auto engine = open(options);
-  if (!engine || !engine->require_network("eumorfo", "to split paragraphs into sentences"))
-    return nullptr;
-  return engine;
+  return open(options, {{"eumorfo", "to split paragraphs into sentences"}});
 }
 
 bool Engine::require_network(const std::string& name, const char* purpose) const {

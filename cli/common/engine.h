@@ -37,9 +37,17 @@ bool read_config(const std::filesystem::path& config, std::vector<NetworkEntry>&
 
 class Engine {
  public:
+  // A network the subcommand cannot do without, and what for.
+  struct Need {
+    std::string network;
+    const char* purpose;  // ends the message "... needed <purpose>"
+  };
+
   // Null (message printed) when the configuration, a table or the personal
-  // dictionary is missing, or when the engine cannot be built.
-  static std::unique_ptr<Engine> open(const CommonOptions& options);
+  // dictionary is missing, when the engine cannot be built, or when the
+  // configuration lacks a needed network (the first one is named).
+  static std::unique_ptr<Engine> open(const CommonOptions& options,
+                                      const std::vector<Need>& needs = {});
   // The same for the paragraph subcommands, which also need "eumorfo" to
   // split sentences.
   static std::unique_ptr<Engine> open_for_paragraphs(const CommonOptions& options);

@@ -15,8 +15,7 @@ const std::vector<std::string>& inputs_or_stdin(const std::vector<std::string>& 
   return files.empty() ? kStdin : files;
 }
 
-}  // namespace
-
+// The words, else a line at a time from the files; see for_each_word.
 bool for_each_line_item(const std::vector<std::string>& words, const std::vector<std::string>& files,
                         const std::function<void(const std::string&)>& f) {
   if (!words.empty()) {
@@ -48,6 +47,8 @@ bool for_each_line_item(const std::vector<std::string>& words, const std::vector
   return ok;
 }
 
+// The item converted for the engine; false (message printed) when it cannot
+// be.
 bool engine_text(const std::string& item, Encoding encoding, EnginePiece& piece) {
   bool bad = false;
   if (!to_engine(item, encoding, [&](std::size_t, std::size_t) { bad = true; }, piece)) {
@@ -59,6 +60,26 @@ bool engine_text(const std::string& item, Encoding encoding, EnginePiece& piece)
     std::cerr << "tarvola: \"" << item
               << "\" is not UTF-8; its bytes are passed through unchanged (see --encoding)\n";
   return true;
+}
+
+}  // namespace
+
+bool for_each_word(const std::vector<std::string>& words, const CommonOptions& options,
+                   const WordFunction& f, std::size_t* skipped) {
+  return for_each_line_item(words, options.inputs, [&](const std::string& item) {
+    EnginePiece piece;
+    if (engine_text(item, options.text_encoding(), piece))
+      f(item, piece);
+    else if (skipped != nullptr)
+      ++*skipped;
+  });
+}
+
+void write_results(Output& out, const std::string& item, const std::vector<std::string>& results) {
+  for (const std::string& r : results) out.write(item + "\t" + r + "\n");
+  if (results.empty()) out.write(item + "\t+?\n");
+  out.write("\n");
+  out.end_item();
 }
 
 bool for_each_paragraph(const CommonOptions& options,

@@ -1,25 +1,32 @@
-// The input loops of the subcommands, written once.
+// The input loops of the subcommands, and the text shape of a word's
+// results, written once.
 #ifndef TARVOLA_CLI_COMMON_ITEMS_H
 #define TARVOLA_CLI_COMMON_ITEMS_H
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "common/encoding.h"
+#include "common/io.h"
 #include "common/options.h"
 
 namespace tarvola_cli {
 
-// Word subcommands: the words given as arguments, else the lines of the
-// files (standard input when none), one item a line, blank lines skipped.
-// False when an input could not be read.
-bool for_each_line_item(const std::vector<std::string>& words, const std::vector<std::string>& files,
-                        const std::function<void(const std::string&)>& f);
+// Word subcommands: f(item, its engine text) for the words given as
+// arguments, else for the lines of options.inputs (standard input when
+// none), one item a line, blank lines skipped. An item that cannot be
+// converted for the engine is skipped with a message and counted in
+// `skipped`. False when an input could not be read.
+using WordFunction = std::function<void(const std::string& item, const EnginePiece& piece)>;
+bool for_each_word(const std::vector<std::string>& words, const CommonOptions& options,
+                   const WordFunction& f, std::size_t* skipped = nullptr);
 
-// The item converted for the engine; false (message printed) when it cannot
-// be.
-bool engine_text(const std::string& item, Encoding encoding, EnginePiece& piece);
+// The text output of a word subcommand's results: ITEM<TAB>RESULT per
+// result, ITEM<TAB>+? when there is none, then a blank line; the item is
+// complete.
+void write_results(Output& out, const std::string& item, const std::vector<std::string>& results);
 
 // Paragraph subcommands: every engine piece of every input in order (see
 // paragraphs.h), with a progress line. False when an input could not be

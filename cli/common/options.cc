@@ -2,14 +2,11 @@
 
 namespace tarvola_cli {
 
-void add_engine_options(CLI::App& app, CommonOptions& o) {
+void add_engine_options(CLI::App& app, CommonOptions& o, bool json) {
   app.add_option("--config", o.config,
                  "Network configuration file (default: $TARVOLA_CONFIG, else the bundled data)");
   app.add_option("--dict", o.dict, "Personal dictionary file");
   app.add_flag("--verbose", o.verbose, "Also show the library's routine messages on standard error");
-}
-
-void add_io_options(CLI::App& app, CommonOptions& o, bool json) {
   app.add_option("--encoding", o.encoding, "Encoding of input and text output")
       ->check(CLI::IsMember({"utf-8", "cp1252"}))
       ->capture_default_str();
@@ -28,6 +25,11 @@ void add_text_inputs(CLI::App& app, CommonOptions& o) {
                  "line: one paragraph per line; blank-line: paragraphs separated by blank lines")
       ->check(CLI::IsMember({"line", "blank-line"}))
       ->capture_default_str();
+}
+
+void add_word_inputs(CLI::App& app, CommonOptions& o, const char* words_help) {
+  app.add_option("words", o.words, words_help);
+  app.add_option("-f,--file", o.inputs, "Read words from this file, one a line ('-': stdin)");
 }
 
 }  // namespace tarvola_cli

@@ -21,7 +21,8 @@ struct CommonOptions {
   std::string format = "text";
   std::string encoding = "utf-8";
   std::string paragraph_mode = "line";
-  std::vector<std::string> inputs;
+  std::vector<std::string> words;   // the word subcommands' WORD... arguments
+  std::vector<std::string> inputs;  // files to read: FILE... or --file
   bool unbuffered = false;
   bool verbose = false;
 
@@ -37,12 +38,15 @@ struct CommonOptions {
 // What a subcommand does once the arguments are parsed; its exit status.
 using Runner = std::function<int()>;
 
-// --config, --dict, --verbose.
-void add_engine_options(CLI::App& app, CommonOptions& o);
-// --encoding, --output, --unbuffered, and --format when `json` is offered.
-void add_io_options(CLI::App& app, CommonOptions& o, bool json);
+// --config, --dict, --verbose, then --encoding, --output, --unbuffered, and
+// --format when `json` is offered: every engine subcommand ends with them.
+void add_engine_options(CLI::App& app, CommonOptions& o, bool json);
 // FILE... inputs and --paragraph-mode, for the paragraph subcommands.
 void add_text_inputs(CLI::App& app, CommonOptions& o);
+// WORD... arguments and -f,--file, for the subcommands that take a word a
+// line.
+void add_word_inputs(CLI::App& app, CommonOptions& o,
+                     const char* words_help = "Words (none: one a line from --file or stdin)");
 
 }  // namespace tarvola_cli
 

@@ -6,6 +6,7 @@
 
 #include "tarvola/base/cp1252.h"
 #include "tarvola/base/latin1.h"
+#include "tarvola/tables/table_text.h"
 
 namespace tarvola::table_import {
 
@@ -26,6 +27,13 @@ std::vector<std::string_view> split_tabs(std::string_view line) {
   // hfst-fst2txt and lt-print may end lines with a tab.
   while (fields.size() > 1 && fields.back().empty()) fields.pop_back();
   return fields;
+}
+
+// f(line, its number from 1) for each line of a text, without its "\n" or
+// "\r\n": the loader's line reading with no limit on a line's length.
+template <typename F>
+void for_each_line(std::string_view text, F&& f) {
+  table_text::for_each_plain_piece(text, text.size(), std::forward<F>(f));
 }
 
 bool parse_state(std::string_view s, long& out) {
@@ -160,27 +168,20 @@ class Importer {
   }
 
   void read(std::string_view text) {
-    std::size_t line_no = 0;
     bool section_open = false;
-    std::size_t pos = 0;
-    while (pos < text.size()) {
-      std::size_t nl = text.find('\n', pos);
-      std::string_view line = text.substr(pos, nl == std::string_view::npos ? std::string_view::npos : nl - pos);
-      pos = nl == std::string_view::npos ? text.size() : nl + 1;
-      ++line_no;
-      if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-      if (line.empty()) continue;
+    for_each_line(text, [&](std::string_view line, std::size_t line_no) {
+      if (line.empty()) return;
       if (line == "--") {
         // lt-print's section separator: the next section numbers from 0 again.
         base_ = static_cast<long>(states_.size());
         section_open = false;
-        continue;
+        return;
       }
       auto fields = split_tabs(line);
       long src = 0;
       if (!parse_state(fields[0], src)) {
         problem(line_no, "expected a state number at the start of the line");
-        continue;
+        return;
       }
       if (!section_open) {
         sections_.push_back(base_ + src);
@@ -188,17 +189,17 @@ class Importer {
       }
       if (fields.size() <= 2) {
         state(src).final = true;
-        continue;
+        return;
       }
       long dst = 0;
       if (!parse_state(fields[1], dst)) {
         problem(line_no, "expected a target state number in the second column");
-        continue;
+        return;
       }
       std::string_view in = fields[2];
       std::string_view out = fields.size() >= 4 ? fields[3] : fields[2];
       add_arc(line_no, src, dst, in, out);
-    }
+    });
   }
 
   void add_arc(std::size_t line_no, long src, long dst, std::string_view in, std::string_view out) {
@@ -359,31 +360,24 @@ std::string cp1252_to_utf8(std::string_view text) { return cp1252::to_utf8(text)
 std::map<std::string, std::string> parse_tag_map(std::string_view text, bool utf8,
                                                  std::vector<ImportProblem>& problems) {
   std::map<std::string, std::string> map;
-  std::size_t line_no = 0;
-  std::size_t pos = 0;
-  while (pos < text.size()) {
-    std::size_t nl = text.find('\n', pos);
-    std::string_view line = text.substr(pos, nl == std::string_view::npos ? std::string_view::npos : nl - pos);
-    pos = nl == std::string_view::npos ? text.size() : nl + 1;
-    ++line_no;
-    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-    if (line.empty() || line.front() == '#') continue;
+  for_each_line(text, [&](std::string_view line, std::size_t line_no) {
+    if (line.empty() || line.front() == '#') return;
     const std::size_t tab = line.find('\t');
     if (tab == 0 || tab == std::string_view::npos || line.find('\t', tab + 1) != std::string_view::npos) {
       problems.push_back({line_no, "expected FROM<TAB>TO"});
-      continue;
+      return;
     }
     std::string from(line.substr(0, tab)), to(line.substr(tab + 1));
     if (utf8) {
       std::string f, t;
       if (!utf8_to_cp1252(from, f) || !utf8_to_cp1252(to, t)) {
         problems.push_back({line_no, "not valid UTF-8 or outside code page 1252"});
-        continue;
+        return;
       }
       from = std::move(f), to = std::move(t);
     }
     if (!map.emplace(from, to).second) problems.push_back({line_no, "'" + from + "' is renamed twice"});
-  }
+  });
   return map;
 }
 
