@@ -9,6 +9,7 @@
 #include <unistd.h>
 #endif
 
+#include <memory>
 #include <random>
 #include <string>
 #include <vector>
@@ -24,26 +25,13 @@ namespace {
 
 using testing::TempDir;
 
-// An engine built and destroyed quietly; what it prints is not checked here.
-class QuietEngine {
- public:
-  QuietEngine(const std::string& config, const std::string& dictionary) {
-    ::testing::internal::CaptureStdout();
-    engine_ = new Tarvola(config, dictionary);
-    ::testing::internal::GetCapturedStdout();
-  }
-  ~QuietEngine() {
-    ::testing::internal::CaptureStdout();
-    delete engine_;
-    ::testing::internal::GetCapturedStdout();
-  }
-  QuietEngine(const QuietEngine&) = delete;
-  QuietEngine& operator=(const QuietEngine&) = delete;
-  Tarvola& engine() { return *engine_; }
-
- private:
-  Tarvola* engine_;
-};
+// An engine built quietly; what it prints is not checked here.
+std::unique_ptr<Tarvola> quiet_engine(const std::string& config, const std::string& dictionary) {
+  ::testing::internal::CaptureStdout();
+  auto engine = std::make_unique<Tarvola>(config, dictionary);
+  ::testing::internal::GetCapturedStdout();
+  return engine;
+}
 
 std::size_t token_count(const Paragrafoa& p) {
   std::size_t n = 0;
@@ -59,10 +47,10 @@ TEST(BadInput, ConfigurationMissingEmptyOrAFolder) {
   TempDir dir;
   const std::string dictionary = testing::data_path("engine_hiztegia.txt");
   for (const std::string& config : {dir.file("missing.conf"), dir.write("empty.conf", ""), dir.path()}) {
-    QuietEngine e(config, dictionary);
+    auto e = quiet_engine(config, dictionary);
     // No networks: nothing is found, and a paragraph comes back unsplit.
-    EXPECT_TRUE(e.engine().analizatuTokena("etxea").empty()) << config;
-    EXPECT_TRUE(e.engine().analizatu_paragrafoa(1, "Etxea. Bai.").esaldiak.empty()) << config;
+    EXPECT_TRUE(e->analizatuTokena("etxea").empty()) << config;
+    EXPECT_TRUE(e->analizatu_paragrafoa(1, "Etxea. Bai.").esaldiak.empty()) << config;
   }
 }
 
@@ -73,25 +61,23 @@ TEST(BadInput, TableListedButEmptyOrAFolder) {
   ASSERT_EQ(mkdir(folder.c_str(), 0700), 0);
   const std::string config =
       dir.write("c.conf", testing::absolute_engine_config() + empty + "\n" + folder + "\n");
-  QuietEngine e(config, testing::data_path("engine_hiztegia.txt"));
+  auto e = quiet_engine(config, testing::data_path("engine_hiztegia.txt"));
   // Both load as tables without states; the other networks work as before.
-  EXPECT_TRUE(e.engine().analizatuTokena("etxea", "empty").empty());
-  EXPECT_TRUE(e.engine().analizatuTokena("etxea", "folder").empty());
-  EXPECT_FALSE(e.engine().analizatuTokena("etxea", "eumorfo").empty());
+  EXPECT_TRUE(e->analizatuTokena("etxea", "empty").empty());
+  EXPECT_TRUE(e->analizatuTokena("etxea", "folder").empty());
+  EXPECT_FALSE(e->analizatuTokena("etxea", "eumorfo").empty());
 }
 
-// The table's messages go to standard output; in the child of a death test
-// they are sent to standard error, where the expectation can read them.
-void load_with_messages_on_stderr(const std::string& path) {
-  dup2(2, 1);
-  Taula t(path);
+// Loading the file ends the process with that status and message. The
+// table's messages go to standard output; in the child of a death test they
+// are sent to standard error, where the expectation can read them.
+void expect_load_exit(const std::string& path, int status, const char* message) {
+  EXPECT_EXIT({ dup2(2, 1); Taula t(path); }, ::testing::ExitedWithCode(status), message);
 }
 
 TEST(BadInputDeathTest, MissingPlainTableNamesTheFile) {
   TempDir dir;
-  const std::string path = dir.file("gone.txt");
-  EXPECT_EXIT(load_with_messages_on_stderr(path), ::testing::ExitedWithCode(0),
-              "gone.txt ez da existitzen\\.");
+  expect_load_exit(dir.file("gone.txt"), 0, "gone.txt ez da existitzen\\.");
 }
 
 TEST(BadInputDeathTest, GarbageWithALongFieldEndsWithStatusOne) {
@@ -100,17 +86,13 @@ TEST(BadInputDeathTest, GarbageWithALongFieldEndsWithStatusOne) {
   std::string garbage;
   for (int i = 0; i < 4096; ++i) garbage += static_cast<char>(rng() % 256);
   garbage += std::string(200, 'x');  // at least one field over the limit
-  const std::string path = dir.write("garbage.bin", garbage);
-  EXPECT_EXIT(load_with_messages_on_stderr(path), ::testing::ExitedWithCode(1),
-              "lerroko eremua luzeegia da \\(98 karaktere gehienez\\)");
+  expect_load_exit(dir.write("garbage.bin", garbage), 1, "lerroko eremua luzeegia da \\(98 karaktere gehienez\\)");
 }
 
 TEST(BadInputDeathTest, DecipheredLineOverTheLimitEndsWithStatusOne) {
   TempDir dir;
-  const std::string path = dir.write("longSARE8.bin",
-                                     cipher::encipher("0\ta\t1\n0\ta\t" + std::string(2300, '1') + "\n"));
-  EXPECT_EXIT(load_with_messages_on_stderr(path), ::testing::ExitedWithCode(1),
-              "2\\. lerroa luzeegia da \\(2221 karaktere gehienez\\)");
+  expect_load_exit(dir.write("longSARE8.bin", cipher::encipher("0\ta\t1\n0\ta\t" + std::string(2300, '1') + "\n")),
+                   1, "2\\. lerroa luzeegia da \\(2221 karaktere gehienez\\)");
 }
 
 TEST(BadInput, GarbageInShortLinesLoadsAndEveryLookupEnds) {
@@ -141,9 +123,9 @@ TEST(BadInput, DictionaryMissingEmptyOrAFolder) {
   const std::string config = fixture_config(dir);
   for (const std::string& dictionary :
        {dir.file("missing.txt"), dir.write("empty.txt", ""), dir.path()}) {
-    QuietEngine e(config, dictionary);
+    auto e = quiet_engine(config, dictionary);
     // The tables work without the personal words.
-    Paragrafoa p = e.engine().analizatu_paragrafoa(1, "Etxean Getxon.");
+    Paragrafoa p = e->analizatu_paragrafoa(1, "Etxean Getxon.");
     ASSERT_EQ(token_count(p), 3u) << dictionary;
     EXPECT_EQ(p.esaldiak[0].tokenak[0].analisiak.front().sarea, "eumorfo");
   }
@@ -157,25 +139,25 @@ TEST(BadInput, UnreadableFilesActAsMissingOnes) {
   const std::string dictionary = dir.write("hp.txt", "etxe\t<ARR>\t\t\tHP\n");
   ASSERT_EQ(chmod(config.c_str(), 0), 0);
   ASSERT_EQ(chmod(dictionary.c_str(), 0), 0);
-  QuietEngine e(config, dictionary);
-  EXPECT_TRUE(e.engine().analizatuTokena("etxea").empty());
+  auto e = quiet_engine(config, dictionary);
+  EXPECT_TRUE(e->analizatuTokena("etxea").empty());
 }
 #endif
 
 TEST(BadInput, EmptyAndBinaryParagraphs) {
   TempDir dir;
-  QuietEngine e(fixture_config(dir), testing::data_path("engine_hiztegia.txt"));
-  EXPECT_EQ(token_count(e.engine().analizatu_paragrafoa(1, "")), 0u);
-  EXPECT_EQ(token_count(e.engine().analizatu_paragrafoa(1, "     ")), 0u);
+  auto e = quiet_engine(fixture_config(dir), testing::data_path("engine_hiztegia.txt"));
+  EXPECT_EQ(token_count(e->analizatu_paragrafoa(1, "")), 0u);
+  EXPECT_EQ(token_count(e->analizatu_paragrafoa(1, "     ")), 0u);
   std::string binary;
   for (int c = 0; c < 256; ++c) binary += static_cast<char>(c);
-  Paragrafoa p = e.engine().analizatu_paragrafoa(1, binary + binary);
+  Paragrafoa p = e->analizatu_paragrafoa(1, binary + binary);
   EXPECT_GT(token_count(p), 0u);
   for (const Esaldia& s : p.esaldiak)
     for (const Tokena& t : s.tokenak) EXPECT_FALSE(t.analisiak.empty());
   // A "word" of angle brackets longer than a tag may be becomes an unknown
   // form; the process goes on.
-  Paragrafoa tag = e.engine().analizatu_paragrafoa(1, "<" + std::string(300, 'a') + ">");
+  Paragrafoa tag = e->analizatu_paragrafoa(1, "<" + std::string(300, 'a') + ">");
   EXPECT_GT(token_count(tag), 0u);
 }
 

@@ -91,13 +91,22 @@ TEST(OwnForm, EveryFormOfTheCommittedNetworks) {
 
 TEST(OwnForm, EveryEndingOfThePersonalDictionaryClasses) {
   // The "hp" network is read behind a class symbol: generating the class
-  // with the tags of one of its readings gives that ending only.
+  // with the tags of one of its readings gives that ending only, and each
+  // generated form reads back as generated.
   const std::string path = kData + "tables/hpPG.txt";
   tarvola::Sarea net("hp", path, new tarvola::Taula(path));
+  ASSERT_TRUE(std::ifstream(path).good()) << path;
   for (int n = 1; n <= 25; ++n) {
     const std::string cls = "<hp" + std::to_string(n) + ">";
     std::set<std::string> forms;
-    for (const auto& g : net.taula->sortuFormak(cls, "", false, false)) forms.insert(g.forma);
+    for (const auto& g : net.taula->sortuFormak(cls, "", false, false)) {
+      // Every generated form analyses back to the reading it came from.
+      ASSERT_EQ(g.forma.rfind(cls, 0), 0u) << cls << " " << g.forma;
+      auto back = net.taula->analizatuTokena(g.forma);
+      EXPECT_TRUE(std::any_of(back.begin(), back.end(), [&](const auto& r) { return r.analisia == g.analisia; }))
+          << g.forma << " does not analyse back to " << g.analisia;
+      forms.insert(g.forma);
+    }
     ASSERT_FALSE(forms.empty()) << cls;
     expect_own_forms(net, {forms.begin(), forms.end()});
   }
