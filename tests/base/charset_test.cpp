@@ -28,10 +28,11 @@ TEST(Latin1, TokeniserClasses) {
 
 TEST(Cp1252, RoundTripAndRefusals) {
   std::string bytes;
-  ASSERT_TRUE(cp1252::from_utf8("Ma\xC3\xB1" "ana \xE2\x82\xAC \xC5\xA1", bytes));  // ñ € š
-  EXPECT_EQ(bytes, "Ma\xF1" "ana \x80 \x9A");
-  EXPECT_EQ(cp1252::to_utf8(bytes), "Ma\xC3\xB1" "ana \xE2\x82\xAC \xC5\xA1");
+  ASSERT_TRUE(cp1252::from_utf8("Ma\xC3\xB1" "ana \xE2\x82\xAC \xC5\xA1\xE2\x80\x9C", bytes));  // ñ € š “
+  EXPECT_EQ(bytes, "Ma\xF1" "ana \x80 \x9A\x93");
+  EXPECT_EQ(cp1252::to_utf8(bytes), "Ma\xC3\xB1" "ana \xE2\x82\xAC \xC5\xA1\xE2\x80\x9C");
   EXPECT_FALSE(cp1252::from_utf8("\xE2\x86\x92", bytes));      // an arrow: no byte for it
+  EXPECT_FALSE(cp1252::from_utf8("\xF0\x9F\x98\x80", bytes));  // an emoji (four bytes)
   EXPECT_FALSE(cp1252::from_utf8("\xC0\xAF", bytes));          // overlong form
   EXPECT_FALSE(cp1252::from_utf8("\xED\xA0\x80", bytes));      // a surrogate
   EXPECT_FALSE(cp1252::from_utf8("\xC3", bytes));              // cut short
