@@ -79,9 +79,7 @@ TEST_F(Generation, KnownLemma) {
   EXPECT_TRUE(engine_->sortuFormak("etxe", "<ERG>").empty());
   // The reading is cut after the first occurrence of the tags: "etx".
   EXPECT_EQ(forms(engine_->sortuFormak("etxe", "x")), (Words{"etxe", "etxea", "etxia"}));
-}
-
-TEST_F(Generation, KnownLemmaWithoutTagsGeneratesFromNothing) {
+  // Without tags: every form, generated from nothing.
   const Words all = forms(engine_->sortuFormak("etxe", ""));
   ASSERT_GE(all.size(), 4u);
   EXPECT_EQ(Words(all.begin(), all.begin() + 4), (Words{"etxe", "etxea", "etxia", "ona"}));

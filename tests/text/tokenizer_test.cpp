@@ -19,16 +19,14 @@ Sentences split(const std::string& text, std::set<std::string> abbreviations = {
   return split_sentences(text, [&](const std::string& w) { return abbreviations.count(w) > 0; });
 }
 
-TEST(SentenceSplitter, UnconditionalBoundaries) {
+TEST(SentenceSplitter, Boundaries) {
   EXPECT_EQ(split("Kaixo! Zer moduz? Ondo."), (Sentences{"Kaixo! ", "Zer moduz? ", "Ondo."}));
   EXPECT_EQ(split("Hau da: bat."), (Sentences{"Hau da: ", "bat."}));
   EXPECT_EQ(split("Ondo. "), (Sentences{"Ondo. ", ""}));
   EXPECT_EQ(split(""), (Sentences{""}));
   // Punctuation must be followed by byte 32 itself.
   EXPECT_EQ(split("etxea.\nBeste etxea!Beste"), (Sentences{"etxea.\nBeste etxea!Beste"}));
-}
-
-TEST(SentenceSplitter, PeriodRules) {
+  // A period ends a sentence before a capital, unless a number precedes it.
   EXPECT_EQ(split("etxea. Beste"), (Sentences{"etxea. ", "Beste"}));
   EXPECT_EQ(split("etxea. beste"), (Sentences{"etxea. beste"}));
   // Accented lower-case letters do not count as lower case.
