@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -18,24 +19,28 @@
 #include "tarvola/engine/suggestion_candidates.h"
 
 namespace tarvola {
-namespace testing {
+namespace {
+
+using testing::chain_table;
+using testing::forms;
+using testing::TempDir;
+using Words = std::vector<std::string>;
 
 // Network name -> table paths (chain_tables.h).
 using NetworkPaths = std::map<std::string, std::vector<std::string>>;
 
 // Writes the tables, the configuration and (when given) the dictionary
 // into dir and builds an engine over them.
-inline std::unique_ptr<Tarvola> make_engine(const TempDir& dir, const NetworkPaths& networks,
-                                            const std::string& dictionary = "") {
+std::unique_ptr<Tarvola> make_engine(const TempDir& dir, const NetworkPaths& networks,
+                                     const std::string& dictionary = "") {
   std::string config;
-  for (const auto& [name, paths] : networks)
-    config += dir.write(name + ".txt", chain_table(paths)) + "\n";
+  for (const auto& [name, paths] : networks) config += dir.write(name + ".txt", chain_table(paths)) + "\n";
   const std::string config_path = dir.write("sareak.txt", config);
   if (dictionary.empty()) return std::make_unique<Tarvola>(config_path);
   return std::make_unique<Tarvola>(config_path, dir.write("hiztegia.txt", dictionary));
 }
 
-inline NetworkPaths service_networks() {
+NetworkPaths service_networks() {
   return {{"eumorfo",
            {"e t x e <IZE>:<> <ARR>:<>",
             "e t x e <IZE>:<> <ARR>:<> <ABS>:<> <NUMS>:<> <MUGM>:a",
@@ -61,14 +66,7 @@ class ServiceTest : public ::testing::Test {
   std::unique_ptr<Tarvola> engine_ = make_engine(dir_, service_networks(), "kuku\t<ARR>\t\t\tHP\n");
 };
 
-}  // namespace testing
-
-namespace {
-
-using testing::forms;
-using Words = std::vector<std::string>;
-
-using Generation = testing::ServiceTest;
+using Generation = ServiceTest;
 
 TEST_F(Generation, KnownLemma) {
   const std::vector<Analisia> etxe = engine_->sortuFormak("etxe", "<ARR>");
@@ -102,13 +100,12 @@ TEST_F(Generation, UnknownLemmaThroughThrowAwayDictionary) {
 }
 
 TEST(GenerationCut, FormShorterThanClassSymbolThrows) {
-  testing::TempDir dir;
-  auto engine = testing::make_engine(dir, {{"eumorfo", {"e t x e <IZE>:<>"}},
-                                           {"hp", {"<hp1>:h <ABS>:<>"}}});
+  TempDir dir;
+  auto engine = make_engine(dir, {{"eumorfo", {"e t x e <IZE>:<>"}}, {"hp", {"<hp1>:h <ABS>:<>"}}});
   EXPECT_THROW(engine->sortuFormak("kuku", "<ARR>"), std::out_of_range);
 }
 
-using Validity = testing::ServiceTest;
+using Validity = ServiceTest;
 
 // isValid of a word, or of a text's first sentence; with the prefix flag a
 // word is also valid when a longer entry of the main network begins with it.
@@ -139,8 +136,8 @@ TEST_F(Validity, PersonalDictionaryWords) {
   EXPECT_TRUE(engine_->isValid("kukua", false));
   EXPECT_TRUE(engine_->isValid("kuku", true));
   // The same engine without the dictionary file does not know them.
-  testing::TempDir other;
-  auto plain = testing::make_engine(other, testing::service_networks());
+  TempDir other;
+  auto plain = make_engine(other, service_networks());
   EXPECT_FALSE(plain->isValid("kukua", false));
 }
 
@@ -154,8 +151,8 @@ TEST_F(Validity, PrefixSearch) {
 }
 
 TEST(ValidityWithoutNetworks, MissingNetworksGiveNoAnswerAndNoEntry) {
-  testing::TempDir dir;
-  auto engine = testing::make_engine(dir, {{"osag0", {"l u r b i d e <IZE>:<>"}}});
+  TempDir dir;
+  auto engine = make_engine(dir, {{"osag0", {"l u r b i d e <IZE>:<>"}}});
   EXPECT_TRUE(engine->isValid("lurbide", true));
   EXPECT_FALSE(engine->isValid("lur", true));  // no "eumorfo" to search
   EXPECT_TRUE(engine->bilatuHasiera("lur", false).empty());
@@ -215,7 +212,7 @@ TEST(SuggestionCandidates, OneLetterBlankAndReplaced) {
   EXPECT_TRUE(engine::replaced_candidates("ab").empty());
 }
 
-using Suggestions = testing::ServiceTest;
+using Suggestions = ServiceTest;
 
 // The first level that finds a valid word answers; what the broad levels
 // find is ranked and kept.
@@ -234,14 +231,14 @@ TEST_F(Suggestions, LevelsInOrder) {
 }
 
 TEST(SuggestionLimit, AtMostFiveFromTheBroadLevels) {
-  testing::TempDir dir;
+  TempDir dir;
   std::vector<std::string> words;
   for (const char* w : {"bbc", "abc", "ebc", "ibc", "obc", "ubc"}) words.push_back(testing::word_path(w));
-  auto engine = testing::make_engine(dir, {{"eumorfo", words}});
+  auto engine = make_engine(dir, {{"eumorfo", words}});
   EXPECT_EQ(engine->lortu_ezzg_proposamenak("xbc"), (Words{"abc", "ebc", "ibc", "obc", "ubc"}));
 }
 
-using Brindel = testing::ServiceTest;
+using Brindel = ServiceTest;
 
 // The document frame and its markup are the writer's own tests
 // (output/brindel_writer_test.cpp); here, what the engine hands it.
