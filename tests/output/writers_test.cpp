@@ -45,10 +45,7 @@ Tokena unknown(const std::string& form, bool capital = false) {
 class BrindelWriter : public ::testing::Test {
  protected:
   BrindelWriter() {
-    const std::string path = dir_.write(
-        "eumorfo.txt", testing::chain_table({"e t x e <IZE>:<> <ABS>:<> <MUGM>:a"}));
-    network_ = new Sarea("eumorfo", path, new Taula(path));
-    networks_["eumorfo"] = network_;
+    networks_["eumorfo"] = &network_;
     services_.networks = &networks_;
     services_.prefix_search = [this](const std::string& text) {
       auto it = prefixes_.find(text);
@@ -59,8 +56,6 @@ class BrindelWriter : public ::testing::Test {
       return lemma + "+" + tags;
     };
   }
-  ~BrindelWriter() override { delete network_; }
-
   // The verdict text of one token, markup of the document around it cut off.
   std::string verdict(const Tokena& t) {
     Esaldia sentence(-1, "");
@@ -73,7 +68,9 @@ class BrindelWriter : public ::testing::Test {
   }
 
   testing::TempDir dir_;
-  Sarea* network_;
+  const std::string path_ =
+      dir_.write("eumorfo.txt", testing::chain_table({"e t x e <IZE>:<> <ABS>:<> <MUGM>:a"}));
+  Sarea network_{"eumorfo", path_, new Taula(path_)};
   SareMapa networks_;
   std::map<std::string, std::vector<Analisia>> prefixes_;
   std::vector<std::string> suggestions_;

@@ -190,14 +190,13 @@ class Lookup : public ::testing::Test {
 
   Strings readings(const HiztegiPertsonala& hp, const std::string& token) {
     Strings out;
-    for (const Analisia& a : hp.analizatu(token, network_))
+    for (const Analisia& a : hp.analizatu(token, &network_))
       out.push_back(a.analisia + " " + std::to_string(a.maiuskulaMota));
     return out;
   }
 
   const std::string path_ = tarvola::testing::data_path("tables/hp_endings.txt");
-  Sarea owned_{"hp", path_, new tarvola::Taula(path_)};
-  Sarea* network_ = &owned_;
+  Sarea network_{"hp", path_, new tarvola::Taula(path_)};
   tarvola::testing::TempDir dir_;
 };
 
@@ -210,7 +209,7 @@ const char kWords[] =
 TEST_F(Lookup, RecordCarriesTheEntryAndTheEnding) {
   HiztegiPertsonala hp = loaded(kWords);
   ASSERT_EQ(hp.luzeraMin, 3);
-  std::vector<Analisia> result = hp.analizatu("etxean", network_);
+  std::vector<Analisia> result = hp.analizatu("etxean", &network_);
   ASSERT_EQ(result.size(), 1u);
   const Analisia& a = result[0];
   EXPECT_EQ(a.analisia, "etxe<IZE><ARR><hp1><INE><NUMS><MUGM>");
@@ -264,7 +263,7 @@ TEST_F(Lookup, DictionaryWithoutAFileTestsEveryEntry) {
   EXPECT_EQ(readings(hp, "lanean"), Strings{"lan<IZE><ARR><hp4><INE><NUMS><MUGM> 1"});
   EXPECT_EQ(readings(hp, "LANA"), Strings{"lan<IZE><ARR><hp4><ABS><NUMS><MUGM> 2"});
   EXPECT_EQ(readings(hp, "Bilbon"), Strings{"Bilbo<IZE><LIB><hp12><INE> 1"});
-  EXPECT_EQ(hp.analizatu("lanean", network_)[0].s_balioa, "J");
+  EXPECT_EQ(hp.analizatu("lanean", &network_)[0].s_balioa, "J");
   EXPECT_TRUE(hp.analizatu("lanean", nullptr).empty());
 }
 
