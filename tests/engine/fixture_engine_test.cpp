@@ -215,6 +215,7 @@ TEST_F(EngineAnalysis, ParagraphIsAlwaysNumberOne) {
   Paragrafoa one = engine_->analizatu_paragrafoa(1, text);
   EXPECT_EQ(seven.id, 1);
   ASSERT_EQ(one.esaldiak.size(), 3u);
+  EXPECT_EQ(seven.get_CG3(true, false, false), one.get_CG3(true, false, false));
   EXPECT_EQ(every_reading(seven), every_reading(one));
   // The personal dictionary comes first: "Etxean" gets only its reading.
   const Tokena& etxean = one.esaldiak[1].tokenak[0];
