@@ -24,7 +24,7 @@ TEST(Analisia, Fields) {
   EXPECT_EQ(fields(Analisia("", "n")), "||||||||n||0");
 }
 
-TEST(Analisia, LemmaWalk) {
+TEST(Analisia, Lemma) {
   EXPECT_EQ(Analisia("etxe<0x>ko<IZE>", "").lema, "etxeko");      // "0" tags skipped
   EXPECT_EQ(Analisia("etxe[s=a]<IZE>ko<ADJ>", "").lema, "etxeko");  // tag after a mark skipped
   EXPECT_EQ(Analisia("ba<AUR><MEN><BALD>etorri<ADI>", "").lema, "etorri");
@@ -32,9 +32,7 @@ TEST(Analisia, LemmaWalk) {
   EXPECT_EQ(Analisia("bait<AUR><MEN><KAUS>dago<ADL>", "").lema, "dago");
   EXPECT_EQ(Analisia("etxe[s=a", "").lema, "etxe");  // unclosed mark ends the lemma
   EXPECT_EQ(Analisia("etxe<0x", "").lema, "etxe");
-}
-
-TEST(Analisia, CompoundPlusSigns) {
+  // Compound boundaries are dropped, except in addresses and a lone "+".
   EXPECT_EQ(Analisia("etxe+ko+andre<IZE>", "").lema, "etxekoandre");
   EXPECT_EQ(Analisia("www+x+eus<WEB>", "").lema, "www+x+eus");
   EXPECT_EQ(Analisia("+<PUNT>", "").lema, "+");

@@ -213,12 +213,3 @@ TEST(TableImport, StatesThatLeadNowhereAreLeftOutAndTheRestRenumbered) {
   ASSERT_TRUE(r.ok());
   EXPECT_TRUE(r.table.empty());
 }
-
-TEST(TableImport, CodePageConversionBothWays) {
-  std::string out;
-  ASSERT_TRUE(ti::utf8_to_cp1252("\xC3\xB1" "a\xE2\x82\xAC\xE2\x80\x9C", out));  // n-tilde, a, euro, left quote
-  EXPECT_EQ(out, "\xF1" "a\x80\x93");
-  EXPECT_EQ(ti::cp1252_to_utf8(out), "\xC3\xB1" "a\xE2\x82\xAC\xE2\x80\x9C");
-  EXPECT_FALSE(ti::utf8_to_cp1252("\xC0\xAF", out));  // overlong slash
-  EXPECT_FALSE(ti::utf8_to_cp1252("\xF0\x9F\x98\x80", out));  // emoji
-}

@@ -1,20 +1,50 @@
+// Sentences and paragraphs analysed over networks built straight from the
+// engine fixture tables, without an engine.
+#include <initializer_list>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "support/engine_fixture.h"
+#include "support/readings.h"
 #include "support/test_files.h"
+#include "tarvola/analysis/Sarea.h"
+#include "tarvola/tables/Taula.h"
 #include "tarvola/text/Esaldia.h"
-#include "text/text_networks_support.h"
+#include "tarvola/text/Paragrafoa.h"
 
 namespace tarvola {
 namespace {
 
-using testing::Networks;
-using testing::readings_of;
 using testing::sourced;
-using testing::token_forms;
 using Strings = std::vector<std::string>;
+
+class Networks {
+ public:
+  // Each name loads tables/engine/<name>.txt.
+  Networks(std::initializer_list<const char*> names) {
+    for (const char* name : names) {
+      std::string path = testing::engine_table(std::string(name) + ".txt");
+      owned_.push_back(std::make_unique<Sarea>(name, path, new Taula(path)));
+      map_[name] = owned_.back().get();
+    }
+  }
+  const SareMapa& map() const { return map_; }
+
+ private:
+  std::vector<std::unique_ptr<Sarea>> owned_;
+  SareMapa map_;
+};
+
+Strings token_forms(const Esaldia& esaldia) {
+  Strings out;
+  for (const Tokena& t : esaldia.tokenak) out.push_back(t.forma);
+  return out;
+}
+
+Strings readings_of(const Tokena& token) { return testing::analyses(token.analisiak); }
 
 Esaldia analysed(const std::string& text, const SareMapa& sareak, HiztegiPertsonala& hp,
                  bool aukera = true) {
@@ -117,6 +147,65 @@ TEST_F(SentenceAnalysis, EmptySentenceAndMissingNetworks) {
   EXPECT_TRUE(run("").tokenak.empty());
   Esaldia e = analysed("etxea", SareMapa{}, empty);
   EXPECT_EQ(readings_of(e.tokenak.at(0)), (Strings{"etxea<EZZG>"}));
+}
+
+class ParagraphAnalysis : public ::testing::Test {
+ protected:
+  Networks networks{"eumorfo", "hp", "osag0"};
+  HiztegiPertsonala dictionary;
+
+  Paragrafoa run(const std::string& text) {
+    Paragrafoa p(1, text);
+    p.analizatu(networks.map(), dictionary, true);
+    return p;
+  }
+};
+
+Strings sentence_texts(const Paragrafoa& p) {
+  Strings out;
+  for (const Esaldia& e : p.esaldiak) out.push_back(e.testua);
+  return out;
+}
+
+TEST_F(ParagraphAnalysis, SplitsNumbersTokenisesAndAnalyses) {
+  Paragrafoa p(1, "Kaixo! Zer moduz? Ondo.");
+  std::vector<Esaldia> returned = p.analizatu(networks.map(), dictionary, true);
+  ASSERT_EQ(p.esaldiak.size(), 3u);
+  // The blank that ends a sentence stays with it; the next starts trimmed.
+  EXPECT_EQ(sentence_texts(p), (Strings{"Kaixo! ", "Zer moduz? ", "Ondo."}));
+  EXPECT_EQ(p.esaldiak[0].id, -1);
+  EXPECT_EQ(p.esaldiak[2].id, 1);
+  EXPECT_EQ(token_forms(p.esaldiak[1]), (Strings{"Zer", "moduz", "?"}));
+  for (const Esaldia& e : p.esaldiak)
+    for (const Tokena& t : e.tokenak) EXPECT_FALSE(t.analisiak.empty());
+  EXPECT_EQ(returned[2].tokenak.size(), p.esaldiak[2].tokenak.size());
+}
+
+TEST_F(ParagraphAnalysis, AbbreviationsNetworksAndRepeatedAnalysis) {
+  // Abbreviations come from the main network.
+  EXPECT_EQ(sentence_texts(run("sagarrak, etab. Gero etxea. Beste")),
+            (Strings{"sagarrak, etab. Gero etxea. ", "Beste"}));
+  // Without the main network nothing at all.
+  Networks others{"hp", "osag0"};
+  Paragrafoa none(1, "Kaixo! Zer moduz?");
+  EXPECT_TRUE(none.analizatu(others.map(), dictionary, true).empty());
+  EXPECT_TRUE(none.esaldiak.empty());
+  // A second analysis appends again.
+  Paragrafoa p(1, "Bai! Ez.");
+  p.analizatu(networks.map(), dictionary, true);
+  p.analizatu(networks.map(), dictionary, true);
+  EXPECT_EQ(sentence_texts(p), (Strings{"Bai! ", "Ez.", "Bai! ", "Ez."}));
+}
+
+TEST_F(ParagraphAnalysis, LongTextIsAnalysedUpToTheLimit) {
+  std::string text;
+  while (text.size() < 12000) text += "Kaixo! ";
+  Paragrafoa p = run(text);
+  std::size_t covered = 0;
+  for (const Esaldia& e : p.esaldiak) covered += e.testua.size();
+  EXPECT_EQ(covered, 9999u);
+  EXPECT_EQ(p.esaldiak.back().testua, "Kai");
+  EXPECT_EQ(p.testua, text);
 }
 
 }  // namespace

@@ -91,18 +91,14 @@ TEST(DictionaryFile, LoadingSkipsCommentsAndMalformedLines) {
 
 class Removal : public ::testing::Test {
  protected:
-  void SetUp() override {
-    path = dir.file("hiztegia.txt");
-    write_file(path,
-               "// iruzkina\n"
-               "etxe\t<ARR>\tbat\tbi\tHP\n"
-               "ETXE\t<ARR>\t\t\tHP\n"
-               "gorri\t<IZO>\t\t\tHP\n"
-               "gorri\t<ARR>\t\t\tHP\n"
-               "hutsa\t<>\t\t\tHP\n");
-  }
   tarvola::testing::TempDir dir;
-  std::string path;
+  std::string path = dir.write("hiztegia.txt",
+                               "// iruzkina\n"
+                               "etxe\t<ARR>\tbat\tbi\tHP\n"
+                               "ETXE\t<ARR>\t\t\tHP\n"
+                               "gorri\t<IZO>\t\t\tHP\n"
+                               "gorri\t<ARR>\t\t\tHP\n"
+                               "hutsa\t<>\t\t\tHP\n");
 };
 
 TEST_F(Removal, ComparesLemmasExactlyAndCategoriesAsSubstrings) {

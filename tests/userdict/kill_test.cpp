@@ -109,7 +109,7 @@ TEST(KillTest, FileIsAlwaysTheOldOrTheNewContent) {
     const bool old_content = now == contents[static_cast<std::size_t>(done)];
     const bool new_content = done < kOperations && now == contents[static_cast<std::size_t>(done) + 1];
     ASSERT_TRUE(old_content || new_content)
-        << "kill " << kill << " after " << done << " operations left:\n[" << now << "]";
+        << "kill " << round << " after " << done << " operations left:\n[" << now << "]";
 
     HiztegiPertsonala reloaded(path);
     std::size_t base_words = 0;
