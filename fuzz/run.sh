@@ -6,6 +6,10 @@
 #              harness (default ../shared/corpus; skipped when missing)
 #   MERGE=1    minimise what was found back into fuzz/corpus/<harness>/
 #   NO_BUILD=1 run what is already built (for running harnesses side by side)
+#   TIMEOUT    seconds one input may take before it counts as a hang
+#              (default 1). On a loaded machine a long run may use more; the
+#              inputs that took a second or more are still written to
+#              BUILD_DIR/fuzz-findings as slow-unit-* to be timed alone.
 # Exits non-zero when a harness finds a crash, a leak or an input that
 # takes more than one second; the input is left in BUILD_DIR/fuzz-findings.
 set -eu
@@ -53,7 +57,7 @@ for h in $harnesses; do
     done
     extra=$build/fuzz-seeds/cli_input
   fi
-  options="-timeout=1 -rss_limit_mb=2048 -print_final_stats=1"
+  options="-timeout=${TIMEOUT:-1} -report_slow_units=1 -rss_limit_mb=2048 -print_final_stats=1"
   case $h in
     table_text | enciphered_table) options="$options -dict=$root/fuzz/table.dict -max_len=16384" ;;
     dictionary) options="$options -dict=$root/fuzz/dictionary.dict -max_len=4096" ;;
