@@ -5,6 +5,9 @@
 #   CORPUS_DIR the shared Basque text folder used to seed the paragraph
 #              harness (default ../shared/corpus; skipped when missing)
 #   MERGE=1    minimise what was found back into fuzz/corpus/<harness>/
+#              (units grown from the shared corpus's text hold pieces of it:
+#              its licence keeps it out of the repository, so drop those
+#              before committing; each run seeds from it again anyway)
 #   NO_BUILD=1 run what is already built (for running harnesses side by side)
 #   TIMEOUT    seconds one input may take before it counts as a hang
 #              (default 1). On a loaded machine a long run may use more; the
