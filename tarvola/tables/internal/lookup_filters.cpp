@@ -28,7 +28,7 @@ unsigned tag_flags(std::string_view s) {
   return flags;
 }
 
-bool capitals_pass(std::string_view word, std::string_view analysis, unsigned flags) {
+bool maiuskulaIragazkia(std::string_view word, std::string_view analysis, unsigned flags) {
   const bool lower_word = !word.empty() && latin1::is_ascii_lower(word[0]);
   if (lower_word && !analysis.empty() && latin1::is_ascii_upper(analysis[0])) return false;
   if (lower_word && (flags & kProperNoun)) return false;
@@ -45,7 +45,7 @@ constexpr std::string_view kWithPostposition[] = {
     "baina<", "bat<IZE>", "bate<IZE>", "bata<IZE>", "gara<IZE>",
     "ondo<IZE>", "bera<ADJ>", "be<IZE>", "zut<ADJ>"};
 
-bool exceptions_pass(std::string_view analysis, unsigned flags) {
+bool salbuespenIragazkia(std::string_view analysis, unsigned flags) {
   if (analysis.find(' ') != std::string_view::npos) {
     for (std::string_view fixed : kFixedReadings)
       if (contains(analysis, fixed)) return false;
@@ -58,17 +58,9 @@ bool exceptions_pass(std::string_view analysis, unsigned flags) {
 
 }  // namespace
 
-bool maiuskulaIragazkia(std::string_view word, std::string_view analysis) {
-  return capitals_pass(word, analysis, tag_flags(analysis));
-}
-
-bool salbuespenIragazkia(std::string_view analysis) {
-  return exceptions_pass(analysis, tag_flags(analysis));
-}
-
 bool filters_pass(std::string_view word, std::string_view analysis) {
   const unsigned flags = tag_flags(analysis);
-  return capitals_pass(word, analysis, flags) && exceptions_pass(analysis, flags);
+  return maiuskulaIragazkia(word, analysis, flags) && salbuespenIragazkia(analysis, flags);
 }
 
 }  // namespace tarvola::internal

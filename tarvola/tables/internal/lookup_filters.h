@@ -14,9 +14,8 @@
 
 namespace tarvola::internal {
 
-bool maiuskulaIragazkia(std::string_view word, std::string_view analysis);
-bool salbuespenIragazkia(std::string_view analysis);
-// Both, with one scan of the analysis for the tags they ask about.
+// Whether both filters keep the analysis; the tags they ask about are
+// found in one scan of it.
 bool filters_pass(std::string_view word, std::string_view analysis);
 
 }  // namespace tarvola::internal
