@@ -20,6 +20,8 @@ set -eu
 
 HERE=$(cd "$(dirname "$0")" && pwd)
 . "$HERE/eumorfo/rules.sh"
+. "$HERE/eumorfo/lexicon.sh"
+. "$HERE/eumorfo/productive.sh"
 OUT=""
 UPDATE=0
 for arg in "$@"; do
@@ -49,9 +51,9 @@ have_tools() {
 }
 
 if ! have_tools && [ -z "${TARVOLA_NO_APT:-}" ] && [ "$(id -u)" = 0 ] && command -v apt-get >/dev/null 2>&1; then
-  echo "build-data: installing apertium-eu-es lttoolbox hfst sfst with apt-get" >&2
-  (apt-get install -y apertium-eu-es lttoolbox hfst sfst >/dev/null 2>&1 ||
-    { apt-get update >/dev/null 2>&1 && apt-get install -y apertium-eu-es lttoolbox hfst sfst >/dev/null 2>&1; }) ||
+  echo "build-data: installing apertium-eu-es lttoolbox lttoolbox-dev hfst sfst with apt-get" >&2
+  (apt-get install -y apertium-eu-es lttoolbox lttoolbox-dev hfst sfst >/dev/null 2>&1 ||
+    { apt-get update >/dev/null 2>&1 && apt-get install -y apertium-eu-es lttoolbox lttoolbox-dev hfst sfst >/dev/null 2>&1; }) ||
     echo "build-data: apt-get could not install the packages" >&2
 fi
 
@@ -102,7 +104,14 @@ if have_tools; then
   compile_rules "$HERE/eumorfo/cases.regexp" " .o. " "$WORK/cases.hfst"
   compile_rules "$HERE/eumorfo/extra.regexp" " | " "$WORK/extra.hfst"
   hfst-compose -1 "$WORK/apertium.hfst" -2 "$WORK/cases.hfst" -o "$WORK/cased.hfst"
-  hfst-disjunct -1 "$WORK/cased.hfst" -2 "$WORK/extra.hfst" -o "$WORK/eumorfo.hfst"
+  # The project's own lexicon (eumorfo/lexicon.sh), then the productive
+  # morphology built from everything known so far (eumorfo/productive.sh),
+  # each a transducer in the same direction and tag set as cased.hfst.
+  build_lexicon "$WORK" "$WORK/lexicon.hfst"
+  hfst-disjunct -1 "$WORK/cased.hfst" -2 "$WORK/lexicon.hfst" -o "$WORK/known.hfst"
+  build_productive "$WORK" "$WORK/known.hfst" "$WORK/productive.hfst"
+  hfst-disjunct -1 "$WORK/known.hfst" -2 "$WORK/productive.hfst" -o "$WORK/own.hfst"
+  hfst-disjunct -1 "$WORK/own.hfst" -2 "$WORK/extra.hfst" -o "$WORK/eumorfo.hfst"
   hfst-fst2txt "$WORK/eumorfo.hfst" > "$WORK/eumorfo.att"
   "$IMPORTER" --surface-column 3 --tags "$HERE/eumorfo/tags.map" "$WORK/eumorfo.att" "$OUT/eumorfoPG.txt" \
     2>"$WORK/eumorfo.log" || { cat "$WORK/eumorfo.log" >&2; exit 1; }

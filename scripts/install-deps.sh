@@ -8,9 +8,9 @@ set -eu
 kind=${1:-demo}
 packages="cmake g++ make libcli11-dev nlohmann-json3-dev"
 case "$kind" in
-  demo) packages="$packages apertium-eu-es lttoolbox hfst sfst" ;;
-  test) packages="$packages libgtest-dev libgmock-dev apertium-eu-es lttoolbox hfst sfst cg3" ;;
-  ci) packages="$packages libgtest-dev libgmock-dev apertium-eu-es lttoolbox hfst sfst cg3 foma
+  demo) packages="$packages apertium-eu-es lttoolbox lttoolbox-dev hfst sfst" ;;
+  test) packages="$packages libgtest-dev libgmock-dev apertium-eu-es lttoolbox lttoolbox-dev hfst sfst cg3" ;;
+  ci) packages="$packages libgtest-dev libgmock-dev apertium-eu-es lttoolbox lttoolbox-dev hfst sfst cg3 foma
         libbenchmark-dev g++-mingw-w64-x86-64 binutils-mingw-w64-x86-64 clang-14 libclang-rt-14-dev" ;;
   *) echo "usage: $0 demo|test|ci" >&2; exit 2 ;;
 esac
