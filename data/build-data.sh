@@ -14,6 +14,8 @@
 #   (as root, unless TARVOLA_NO_APT is set); when the Apertium data or the
 #   toolkits cannot be had, the small committed demo network is used as the
 #   main network instead, and the script says so.
+#   With TARVOLA_FULL_DATA set, falling back to the demo network is an
+#   error (exit 1): continuous integration must test the real data.
 #   --update-committed also rewrites the committed tables in data/tables/ and
 #   data/demo/ from their SFST sources (for maintainers).
 set -eu
@@ -116,9 +118,13 @@ if have_tools; then
   "$IMPORTER" --surface-column 3 --tags "$HERE/eumorfo/tags.map" "$WORK/eumorfo.att" "$OUT/eumorfoPG.txt" \
     2>"$WORK/eumorfo.log" || { cat "$WORK/eumorfo.log" >&2; exit 1; }
   echo "build-data: main network converted from $AUTOMORF: $(sed -n '$s/.*: //p' "$WORK/eumorfo.log")" >&2
+elif [ -n "${TARVOLA_FULL_DATA:-}" ]; then
+  echo "build-data: Apertium's Basque data or the toolkits (lttoolbox-dev, hfst, sfst) could not be had," >&2
+  echo "build-data: and TARVOLA_FULL_DATA forbids falling back to the demo network" >&2
+  exit 1
 else
   cp "$HERE/demo/eumorfoPG.txt" "$OUT/eumorfoPG.txt"
-  echo "build-data: WARNING: Apertium's Basque data or the toolkits (lttoolbox, hfst, sfst) could not be had;" >&2
+  echo "build-data: WARNING: Apertium's Basque data or the toolkits (lttoolbox-dev, hfst, sfst) could not be had;" >&2
   echo "build-data: WARNING: using the small demo main network instead (a few hundred forms)." >&2
 fi
 

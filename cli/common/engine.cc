@@ -58,6 +58,15 @@ bool readable_file(const fs::path& path) {
 
 }  // namespace
 
+bool is_demo_config(const fs::path& config) {
+  // The demo configuration says what it is on its first line; that line
+  // goes with it when it is installed in place of the full data set.
+  std::ifstream in(config, std::ios::binary);
+  std::string first;
+  std::getline(in, first);
+  return first.rfind(kDemoConfigMark, 0) == 0;
+}
+
 fs::path find_config(const std::string& option) {
   std::string from;
   fs::path chosen;
@@ -164,6 +173,10 @@ std::unique_ptr<Engine> Engine::open(const CommonOptions& options, const std::ve
               << failure << "\n";
     return nullptr;
   }
+  if (is_demo_config(config))
+    std::cerr << "tarvola: note: " << config.string()
+              << " is the small demo data set (a few hundred words), not the Basque data set;"
+                 " build that with 'cmake --build build' (see data/README.md)\n";
   for (const Need& need : needs)
     if (!engine->require_network(need.network, need.purpose)) return nullptr;
   return engine;

@@ -27,6 +27,11 @@ struct NetworkEntry {
   std::filesystem::path table;   // absolute path of its table file
 };
 
+// The first line of the committed demo configuration: a tool running on
+// it says so, since its answers are not those of the Basque data set.
+inline constexpr const char kDemoConfigMark[] = "// tarvola demo network configuration";
+bool is_demo_config(const std::filesystem::path& config);
+
 // The configuration file to use; empty (message printed) when there is
 // none.
 std::filesystem::path find_config(const std::string& option);
