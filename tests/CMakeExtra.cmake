@@ -38,3 +38,12 @@ if(TARGET tarvola_cli)
     endforeach()
   endif()
 endif()
+
+# The checker's figures on held-out Basque prose with the built data set
+# (skipped without the corpus or the full data set).
+if(TARGET tarvola_cli AND TARGET tarvola_data)
+  add_test(NAME data.checker_quality
+    COMMAND sh ${PROJECT_SOURCE_DIR}/data/tests/checker_quality.sh $<TARGET_FILE:tarvola_cli>
+            ${PROJECT_BINARY_DIR}/data/built/tarvola.conf ${TARVOLA_CORPUS_DIR})
+  set_tests_properties(data.checker_quality PROPERTIES SKIP_RETURN_CODE 77)
+endif()
