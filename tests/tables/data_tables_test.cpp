@@ -156,8 +156,8 @@ TEST(OwnForm, CompoundGuessesKeepTheirSuffix) {
 }
 
 TEST(OwnForm, WordsOfTheConvertedMainNetwork) {
-  const std::string path = kData + "built/eumorfoPG.txt";
-  if (!std::ifstream(path).good()) GTEST_SKIP() << "needs data/built (sh data/build-data.sh)";
+  const std::string path = std::string(TARVOLA_BUILT_DATA_DIR) + "/eumorfoPG.txt";
+  if (!std::ifstream(path).good()) GTEST_SKIP() << "needs the built data set: " << path;
   tarvola::Sarea net("eumorfo", path, new tarvola::Taula(path));
   // Forms whose readings begin other readings of the source: bare stems,
   // numbers alone, -ko and -en forms, cases the source extends, finite
