@@ -132,6 +132,18 @@ std::vector<std::string> one_letter_candidates(const std::string& word) {
                 word.substr(at));
     }
   }
+  // A letter mistyped for another. Last, since a word one letter longer or
+  // shorter is the likelier slip where both are words; here rather than in
+  // the last level alone, which is reached only when this one finds nothing,
+  // so that a mistyped letter is still corrected when a deletion or an
+  // insertion happens to make some other word.
+  for (std::size_t at = 0; at < word.size(); ++at) {
+    for (const char* letter = kInsertedLetters; *letter; ++letter) {
+      std::string candidate = word;
+      candidate[at] = case_of.fit(std::string(1, *letter), at)[0];
+      level.add(std::move(candidate));
+    }
+  }
   return level.take();
 }
 

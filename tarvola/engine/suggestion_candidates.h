@@ -7,7 +7,8 @@
 //   2 swapped           two neighbouring characters exchanged
 //   3 letter groups     one confusion of suggestion_tables.h undone
 //   4 blank inserted    the word cut in two; halves of 2+ characters
-//   5 one letter        one character deleted, or one letter inserted
+//   5 one letter        one character deleted, one letter inserted, then
+//                       one character replaced by a letter
 //   6 one replaced      one character replaced by another letter
 //
 // Levels 1 and 6 keep only candidates longer than 2 characters. Letters

@@ -3,9 +3,9 @@
 // Candidates come in six levels (suggestion_candidates.h), each tested with
 // isValid(candidate, false). The cheap, likely corrections of levels 1 to 3
 // are all tested and all kept; only when none of them is a word does the
-// search go on to the broad levels, one letter more or less (5), a missing
-// blank (4) and, as a last resort, one letter replaced (6), keeping at
-// most five suggestions from those.
+// search go on to the broad levels, one letter more, less or mistyped (5),
+// a missing blank (4) and, as a last resort, one letter replaced by any
+// letter (6), keeping at most five suggestions from those.
 #include <cstddef>
 #include <string>
 #include <unordered_map>

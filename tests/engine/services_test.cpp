@@ -200,6 +200,13 @@ TEST(SuggestionCandidates, OneLetterBlankAndReplaced) {
   EXPECT_TRUE(has(aa, "haa"));
   EXPECT_TRUE(has(engine::one_letter_candidates("ETXA"), "ETXEA"));
   EXPECT_TRUE(has(engine::one_letter_candidates("Txa"), "Txea"));
+  // A mistyped letter, after every deletion and insertion, and in the case
+  // of the letter it replaces.
+  const Words etxia = engine::one_letter_candidates("Etxia");
+  const auto replaced = std::find(etxia.begin(), etxia.end(), "Etxea");
+  ASSERT_NE(replaced, etxia.end());
+  EXPECT_TRUE(std::find(etxia.begin(), etxia.end(), "Etxiak") < replaced);
+  EXPECT_TRUE(has(etxia, "Atxia"));
 
   const std::vector<engine::BlankSplit> splits = engine::blank_candidates("abcde");
   ASSERT_EQ(splits.size(), 2u);
