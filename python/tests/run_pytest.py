@@ -15,7 +15,8 @@ def main(argv):
               + " (Debian: python3-pytest python3-dask python3-distributed)")
         return 77
     import pytest
-    status = pytest.main(["-q", "-p", "no:cacheprovider", *argv[cut + 1:]])
+    status = pytest.main(["-q", "-p", "no:cacheprovider", "-W", "ignore::DeprecationWarning",
+                          *argv[cut + 1:]])
     # Nothing collected means the test files went missing: a failure here.
     return 1 if status == 5 else int(status)
 
