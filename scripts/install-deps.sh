@@ -2,16 +2,19 @@
 # Installs the Debian packages a build needs, when they are missing.
 # usage: scripts/install-deps.sh demo|test|ci
 #   demo: what the library, the tool and the data build need
-#   test: demo + GoogleTest and the toolkits the end-to-end tests use
+#   test: demo + GoogleTest, the toolkits the end-to-end tests use, and the
+#         Python package's build and test packages
 #   ci:   test + sanitizer runtimes, MinGW-w64, Google Benchmark, clang
 set -eu
 kind=${1:-demo}
 packages="cmake g++ make libcli11-dev nlohmann-json3-dev"
 case "$kind" in
   demo) packages="$packages apertium-eu-es lttoolbox lttoolbox-dev hfst sfst" ;;
-  test) packages="$packages libgtest-dev libgmock-dev apertium-eu-es lttoolbox lttoolbox-dev hfst sfst cg3" ;;
+  test) packages="$packages libgtest-dev libgmock-dev apertium-eu-es lttoolbox lttoolbox-dev hfst sfst cg3
+        python3-dev pybind11-dev python3-pytest python3-dask python3-distributed" ;;
   ci) packages="$packages libgtest-dev libgmock-dev apertium-eu-es lttoolbox lttoolbox-dev hfst sfst cg3 foma
-        libbenchmark-dev g++-mingw-w64-x86-64 binutils-mingw-w64-x86-64 clang-14 libclang-rt-14-dev" ;;
+        libbenchmark-dev g++-mingw-w64-x86-64 binutils-mingw-w64-x86-64 clang-14 libclang-rt-14-dev
+        python3-dev pybind11-dev python3-pytest python3-dask python3-distributed python3-pip python3-setuptools" ;;
   *) echo "usage: $0 demo|test|ci" >&2; exit 2 ;;
 esac
 
