@@ -5,7 +5,8 @@ readings (or NAME.cg3 with --format cg3, as `tarvola cg3` writes it).
 
     # on this machine: a local cluster of 2 worker processes
     python3 examples/dask_corpus.py corpus/ annotated/ --workers 2
-    # on a running cluster (workers must reach the same input paths)
+    # on a running cluster (workers must reach the same input paths; add
+    # --shared-output when they also see the output folder)
     python3 examples/dask_corpus.py /shared/corpus /shared/out --scheduler tcp://host:8786
 
 Prints the number of tokens and the throughput on standard error.
@@ -30,6 +31,8 @@ def main(argv=None):
     parser.add_argument("--config", help="network configuration (default: the bundled data)")
     parser.add_argument("--dictionary", help="personal dictionary file")
     parser.add_argument("--block-lines", type=int, default=2000, help="lines per task")
+    parser.add_argument("--shared-output", action="store_true",
+                        help="the workers of --scheduler see OUTPUT too: they write it directly")
     args = parser.parse_args(argv)
 
     from distributed import Client, LocalCluster
@@ -53,17 +56,18 @@ def main(argv=None):
     try:
         start = time.perf_counter()
         written = td.write_files(paths, args.output, format=args.format, config=config,
-                                 dictionary=dictionary, block_lines=args.block_lines)
+                                 dictionary=dictionary, block_lines=args.block_lines,
+                                 gather=bool(args.scheduler) and not args.shared_output)
         took = time.perf_counter() - start
     finally:
         client.close()
         if cluster is not None:
             cluster.close()
     tokens = 0
-    if args.format == "jsonl":
-        for w in written:
-            with open(w, encoding="utf-8") as f:
-                tokens += sum(1 for _ in f)
+    for w in written:
+        with open(w, encoding="utf-8") as f:
+            # A token is a JSON line, or a word cohort <"form"> of CG3.
+            tokens += sum(1 for line in f if args.format == "jsonl" or line.startswith('<"'))
     print("%d files, %d tokens in %.2f s (%.0f tokens/s)"
           % (len(written), tokens, took, tokens / took if took else 0), file=sys.stderr)
     return 0

@@ -68,7 +68,7 @@ def include_dirs():
 
 sources = sorted(glob.glob(os.path.join(TOP, "tarvola", "**", "*.cpp"), recursive=True))
 sources += [os.path.join(CLI, "common", n + ".cc")
-            for n in ("encoding", "engine", "io", "paragraphs", "platform")]
+            for n in ("encoding", "engine", "io", "json", "paragraphs", "platform")]
 sources.append(os.path.join(HERE, "src", "module.cc"))
 
 extension = Extension(

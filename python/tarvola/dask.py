@@ -21,8 +21,9 @@ space_after and readings (each Reading.as_dict(), the tool's JSON fields).
 """
 from __future__ import annotations
 
-import json
 import os
+import shutil
+import tempfile
 import threading
 from typing import Any, Dict, Iterable, List, Optional, Sequence, Tuple
 
@@ -147,46 +148,64 @@ def analyze_paragraphs(paragraphs: db.Bag, *, config: Optional[str] = None,
     return paragraphs.map_partitions(analyze)
 
 
-def _render(item, fmt, config, dictionary, mode):
-    path, a, b, first = item
+def _render(item, fmt, config, dictionary, mode, part_dir):
+    number, (path, a, b, first) = item
     text = _read(path, a, b)
     engine = worker_engine(config, dictionary)
-    if fmt == "cg3":
-        pieces = engine._split(text, mode == "blank-line")
-        return "".join(engine._cg3(p, first + i, False) for i, p in enumerate(pieces))
-    lines = []
-    for r in _records(engine, text, first, None, mode):
-        del r["file"]
-        lines.append(json.dumps(r, ensure_ascii=False) + "\n")
-    return "".join(lines)
+    pieces = engine._split(text, mode == "blank-line")
+    render = engine._jsonl if fmt == "jsonl" else (lambda p, n: engine._cg3(p, n, False))
+    out = "".join(render(p, first + i) for i, p in enumerate(pieces))
+    if part_dir is None:
+        return out
+    part = os.path.join(part_dir, "part%07d" % number)
+    with open(part, "w", encoding="utf-8", newline="") as f:
+        f.write(out)
+    return part
 
 
 def write_files(paths: Iterable[str], output_dir: str, *, format: str = "jsonl",
                 config: Optional[str] = None, dictionary: Optional[str] = None,
-                paragraph_mode: str = "line", block_lines: int = DEFAULT_BLOCK_LINES) -> List[str]:
+                paragraph_mode: str = "line", block_lines: int = DEFAULT_BLOCK_LINES,
+                gather: bool = True) -> List[str]:
     """Analyses each file on the cluster and writes OUTPUT_DIR/NAME.jsonl
-    (one token record a line, without "file") or NAME.cg3 (as ``tarvola
-    cg3`` writes it). Returns the paths written. The driver writes the
-    files, so the workers need not share a file system for the output."""
+    (one token a line: paragraph, sentence, index, form, space_after,
+    readings) or NAME.cg3 (as ``tarvola cg3`` writes it). Returns the paths
+    written.
+
+    With ``gather`` (the default) the results travel to this process, which
+    writes the files: the workers need not see OUTPUT_DIR. With
+    ``gather=False`` the workers write their blocks into OUTPUT_DIR
+    themselves (it must be shared with them, as on a local cluster) and
+    this process only joins them: much less traffic for large outputs."""
     if format not in ("jsonl", "cg3"):
         raise ValueError("format must be 'jsonl' or 'cg3', not %r" % (format,))
     paths = [os.fspath(p) for p in paths]
     names = [os.path.splitext(os.path.basename(p))[0] + "." + format for p in paths]
     if len(set(names)) != len(names):
         raise ValueError("two input files would write the same output file")
-    plan = _plan(paths, block_lines, paragraph_mode, config, dictionary)
-    rendered = db.from_sequence(plan, npartitions=max(1, len(plan))).map(
-        _render, format, config, dictionary, paragraph_mode).compute()
     os.makedirs(output_dir, exist_ok=True)
-    written = []
-    for path, name in zip(paths, names):
-        target = os.path.join(output_dir, name)
-        with open(target, "w", encoding="utf-8", newline="") as out:
-            for item, text in zip(plan, rendered):
-                if item[0] == path:
-                    out.write(text)
-        written.append(target)
-    return written
+    plan = _plan(paths, block_lines, paragraph_mode, config, dictionary)
+    part_dir = None if gather else tempfile.mkdtemp(prefix=".tarvola-parts-", dir=output_dir)
+    try:
+        rendered = db.from_sequence(list(enumerate(plan)), npartitions=max(1, len(plan))).map(
+            _render, format, config, dictionary, paragraph_mode, part_dir).compute()
+        written = []
+        for path, name in zip(paths, names):
+            target = os.path.join(output_dir, name)
+            with open(target, "w", encoding="utf-8", newline="") as out:
+                for (source, *_), result in zip(plan, rendered):
+                    if source != path:
+                        continue
+                    if part_dir is None:
+                        out.write(result)
+                    else:
+                        with open(result, encoding="utf-8", newline="") as part:
+                            shutil.copyfileobj(part, out)
+            written.append(target)
+        return written
+    finally:
+        if part_dir is not None:
+            shutil.rmtree(part_dir, ignore_errors=True)
 
 
 def to_dataframe(tokens: db.Bag):
