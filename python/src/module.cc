@@ -31,6 +31,7 @@
 #include "common/io.h"
 #include "common/json.h"
 #include "common/paragraphs.h"
+#include "tarvola/base/tags.h"
 #include "tarvola/tarvola.h"
 
 namespace py = pybind11;
@@ -82,6 +83,22 @@ std::shared_ptr<EnginePiece> piece_of(const Input& in) {
     throw py::value_error("the text holds more than " + std::to_string(tarvola_cli::kPlaceholders) +
                           " distinct characters outside code page 1252");
   return piece;
+}
+
+// A lemma becomes part of the analyses generation builds, where a "<"
+// opens a tag; one running past tags::kMaxTagLength bytes ends the process.
+void check_lemma_tags(const std::string& lemma) {
+  std::size_t open = std::string::npos;
+  for (std::size_t i = 0; i < lemma.size(); ++i) {
+    if (lemma[i] == '<' && open == std::string::npos) open = i;
+    if (lemma[i] == '>' && open != std::string::npos) {
+      if (i - open - 1 > tarvola::tags::kMaxTagLength) break;
+      open = std::string::npos;
+    }
+  }
+  if (open != std::string::npos)
+    throw py::value_error("the lemma holds a \"<\" not closed by \">\" within " +
+                          std::to_string(tarvola::tags::kMaxTagLength) + " bytes");
 }
 
 std::string to_utf8(const EnginePiece& piece, const std::string& engine_text) {
@@ -271,6 +288,7 @@ class Engine {
     auto piece = piece_of({both, l.encoding});
     const std::string& text = piece->text();
     const std::size_t cut = text.find('\t');
+    check_lemma_tags(text.substr(0, cut));
     std::vector<tarvola::Analisia> forms;
     {
       py::gil_scoped_release release;
@@ -619,6 +637,7 @@ class Table {
     auto piece = piece_of({std::string(l.raw) + "\t" + std::string(t.raw), l.encoding});
     const std::string& text = piece->text();
     const std::size_t cut = text.find('\t');
+    check_lemma_tags(text.substr(0, cut));
     std::vector<tarvola::Analisia> forms;
     {
       py::gil_scoped_release release;

@@ -83,6 +83,8 @@ def test_bad_input_raises(engine, tmp_path):
         engine.check("etxea", paragraph_mode="word")
     with pytest.raises(ValueError, match="no personal dictionary"):
         engine.add_word("Txapeldun", "<ARR>")
+    with pytest.raises(ValueError, match="not closed"):
+        engine.generate("<" + "a" * 200, "<IZB>")  # the library would end the process
     with pytest.raises(UnicodeEncodeError):
         engine.analyze("\udc80")
     assert engine.analyze("") == [] and engine.analyze("x" * 100000) == []
