@@ -202,9 +202,11 @@ std::shared_ptr<Loaded> load(const std::string& config, const std::string& dicti
   loaded->config = config;
   loaded->dictionary = dictionary;
   std::string said;
+  // Flushing runs Python code, which may let other threads in: it is done
+  // before the process lock is taken, never under it.
+  flush_python_stdout();
   {
     std::lock_guard<std::mutex> lock(process_lock());
-    flush_python_stdout();
     CerrCapture capture;
     loaded->engine = tarvola_cli::Engine::open(options);
     if (loaded->engine) {
