@@ -90,7 +90,7 @@ def test_bad_input_raises(engine, tmp_path):
     assert engine.analyze("") == [] and engine.analyze("x" * 100000) == []
 
 
-def test_personal_dictionary(tmp_path):
+def test_personal_dictionary(tmp_path, tool):
     dic = tmp_path / "my.dic"
     dic.write_text("")
     engine = tarvola.Engine(dictionary=dic)
@@ -101,7 +101,11 @@ def test_personal_dictionary(tmp_path):
         engine.add_word("Bestea", "<XYZ>")
     assert engine.words() == [tarvola.DictionaryEntry("Zorrotzaurre", "<IZB>")]
     assert engine.is_valid("Zorrotzaurre")
-    assert any(r.network == "HP" or r.sarea for r in engine.analyze("Zorrotzaurren"))
+    readings = engine.analyze("Zorrotzaurren")
+    assert [(r.lemma, r.network) for r in readings] == [("Zorrotzaurre", "hp")]
+    (record,) = [json.loads(line) for line in run_tool(
+        tool, "analyze", "--format", "json", "--dict", str(dic), "Zorrotzaurren").splitlines()]
+    assert [r.as_dict() for r in readings] == record["readings"]
     assert engine.remove_word("Zorrotzaurre", "<IZB>")
     assert not engine.remove_word("Zorrotzaurre", "<IZB>")
     assert engine.words() == [] and not engine.is_valid("Zorrotzaurre")
