@@ -710,7 +710,40 @@ Readings are immutable and may be shared between threads.)doc")
         if (!py::isinstance<Reading>(other)) return py::reinterpret_borrow<py::object>(Py_NotImplemented);
         return py::bool_(a.as_dict().equal(other.cast<const Reading&>().as_dict()));
       })
-      .def("__repr__", &reading_repr);
+      .def("__repr__", &reading_repr)
+      .def(py::pickle(
+          // Readings travel between processes (a Dask bag of them) as their
+          // UTF-8 fields; back in the engine's code page they share one
+          // piece, so that characters outside it come back whole.
+          [](const Reading& r) {
+            const tarvola::Analisia& a = r.a;
+            py::list fields;
+            for (const std::string* f : {&a.analisia, &a.lema, &a.etiketa, &a.twol, &a.sarea, &a.s_balioa,
+                                         &a.h_balioa, &a.e_balioa, &a.tasuna, &a.iritzia, &a.forma})
+              fields.append(r.text(*f));
+            return py::make_tuple(fields, a.maiuskulaMota);
+          },
+          [](const py::tuple& state) {
+            if (state.size() != 2) throw py::value_error("not a pickled Reading");
+            const py::list fields = state[0].cast<py::list>();
+            std::string joined;
+            for (std::size_t i = 0; i < fields.size(); ++i)
+              joined += (i > 0 ? "\t" : "") + fields[i].cast<std::string>();
+            auto piece = piece_of({joined, Encoding::kUtf8});
+            std::vector<std::string> parts;
+            std::size_t at = 0;
+            for (std::size_t tab; (tab = piece->text().find('\t', at)) != std::string::npos; at = tab + 1)
+              parts.push_back(piece->text().substr(at, tab - at));
+            parts.push_back(piece->text().substr(at));
+            if (parts.size() != 11) throw py::value_error("not a pickled Reading");
+            Reading r{tarvola::Analisia(), piece};
+            tarvola::Analisia& a = r.a;
+            std::string* targets[] = {&a.analisia, &a.lema, &a.etiketa, &a.twol, &a.sarea, &a.s_balioa,
+                                     &a.h_balioa, &a.e_balioa, &a.tasuna, &a.iritzia, &a.forma};
+            for (std::size_t i = 0; i < 11; ++i) *targets[i] = parts[i];
+            a.maiuskulaMota = state[1].cast<int>();
+            return r;
+          }));
   m.attr("Reading").attr("__hash__") = py::none();
 
   py::class_<EnginePiece, std::shared_ptr<EnginePiece>>(m, "_Piece");

@@ -60,6 +60,9 @@ def test_code_page_boundary(engine):
     (sentence,) = engine.analyze_text("Café ẞtraße 😀.")
     assert [t.form for t in sentence.tokens][:3] == ["Café", "ẞtraße", "😀"]
     assert engine.analyze("ẞtraße") == []
+    import pickle
+    readings = engine.analyze("etxean") + sentence.tokens[1].readings
+    assert pickle.loads(pickle.dumps(readings)) == readings
     with pytest.raises(ValueError, match="outside code page 1252"):
         engine.analyze("".join(chr(0x4E00 + i) for i in range(40)))
 
