@@ -53,21 +53,27 @@ def cohort_forms(cg3):
     return [line[2:-2] for line in cg3.splitlines() if line.startswith('<"') and line.endswith('">')]
 
 
-def test_example_on_two_workers_equals_the_single_process_run(inputs, tool, tmp_path):
+@pytest.mark.parametrize("fmt", ["jsonl", "cg3"])
+def test_example_on_two_workers_equals_the_single_process_run(inputs, tool, tmp_path, fmt):
     out = tmp_path / "out"
     done = subprocess.run(
         [sys.executable, os.path.join(SOURCE, "examples", "dask_corpus.py"),
-         os.path.dirname(inputs[0]), str(out), "--workers", "2", "--block-lines", "80"],
+         os.path.dirname(inputs[0]), str(out), "--workers", "2", "--block-lines", "80",
+         "--format", fmt],
         capture_output=True, text=True, timeout=300)
     assert done.returncode == 0, done.stderr
     for path in inputs:
+        with open(path, "rb") as f:
+            cg3 = run_tool(tool, "cg3", stdin=f.read())
         name = os.path.splitext(os.path.basename(path))[0]
-        with open(out / (name + ".jsonl"), encoding="utf-8") as f:
+        with open(out / (name + "." + fmt), encoding="utf-8") as f:
+            if fmt == "cg3":
+                assert f.read() == cg3
+                continue
             records = [json.loads(line) for line in f]
         assert records == single_process_records(path)
         # The tokens are the tool's cohorts, in order.
-        with open(path, "rb") as f:
-            assert [r["form"] for r in records] == cohort_forms(run_tool(tool, "cg3", stdin=f.read()))
+        assert [r["form"] for r in records] == cohort_forms(cg3)
 
 
 def test_cg3_files_equal_the_tools_and_engines_load_once(client, inputs, tool, tmp_path):
