@@ -39,15 +39,10 @@ bool to_file_text(const std::string& text, Encoding encoding, std::string& out) 
 std::string field_problem(const std::string& text, bool lemma) {
   if (text.find_first_of("\t\r\n") != std::string::npos) return "a tab or a line break";
   if (lemma && text.find_first_of("|<>") != std::string::npos) return "\"|\", \"<\" or \">\"";
-  std::size_t open = std::string::npos;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '<' && open == std::string::npos) open = i;
-    if (text[i] == '>' && open != std::string::npos) {
-      if (i - open - 1 > tarvola::tags::kMaxTagLength) break;
-      open = std::string::npos;
-    }
-  }
-  return open == std::string::npos ? std::string() : "a \"<\" not closed by \">\" within 98 bytes";
+  return tarvola::tags::tags_closed_in_time(text)
+             ? std::string()
+             : "a \"<\" not closed by \">\" within " + std::to_string(tarvola::tags::kMaxTagLength) +
+                   " bytes";
 }
 
 bool has_entry(const tarvola::HiztegiPertsonala& d, const std::string& lemma, const std::string& cat) {

@@ -6,6 +6,7 @@
 #include "common/engine.h"
 #include "common/items.h"
 #include "common/json.h"
+#include "tarvola/base/tags.h"
 
 namespace tarvola_cli {
 
@@ -35,12 +36,22 @@ Runner register_generate(CLI::App& parent) {
     Output out;
     if (!engine || !out.open(o.output, o.unbuffered)) return 2;
     std::vector<std::string> given;
+    bool refused = false;
     if (!args->lemma.empty()) given.push_back(args->lemma + "\t" + args->tags);
     bool read_ok = for_each_word(given, o, [&](const std::string& line, const EnginePiece& piece) {
       const std::string& both = piece.text();
       std::size_t cut = both.find('\t');
       const std::string lemma = both.substr(0, cut);
       const std::string tags = cut == std::string::npos ? std::string() : both.substr(cut + 1);
+      // The lemma becomes part of the analyses generation builds, where an
+      // open "<" would end the whole process.
+      if (!tarvola::tags::tags_closed_in_time(lemma)) {
+        std::cerr << "tarvola: generate: skipped the lemma " << line.substr(0, line.find('\t'))
+                  << ": a \"<\" not closed by \">\" within " << tarvola::tags::kMaxTagLength
+                  << " bytes\n";
+        refused = true;
+        return;
+      }
       std::vector<tarvola::Analisia> forms = engine->get().sortuFormak(lemma, tags);
       if (o.json()) {
         write_json_line(out, {{"lemma", piece.restore(lemma, Encoding::kUtf8)},
@@ -56,7 +67,7 @@ Runner register_generate(CLI::App& parent) {
                         piece.restore(a.analisia, o.text_encoding()));
       write_results(out, request, lines);
     });
-    return out.close() && read_ok ? 0 : 2;
+    return out.close() && read_ok && !refused ? 0 : 2;
   };
 }
 

@@ -88,15 +88,7 @@ std::shared_ptr<EnginePiece> piece_of(const Input& in) {
 // A lemma becomes part of the analyses generation builds, where a "<"
 // opens a tag; one running past tags::kMaxTagLength bytes ends the process.
 void check_lemma_tags(const std::string& lemma) {
-  std::size_t open = std::string::npos;
-  for (std::size_t i = 0; i < lemma.size(); ++i) {
-    if (lemma[i] == '<' && open == std::string::npos) open = i;
-    if (lemma[i] == '>' && open != std::string::npos) {
-      if (i - open - 1 > tarvola::tags::kMaxTagLength) break;
-      open = std::string::npos;
-    }
-  }
-  if (open != std::string::npos)
+  if (!tarvola::tags::tags_closed_in_time(lemma))
     throw py::value_error("the lemma holds a \"<\" not closed by \">\" within " +
                           std::to_string(tarvola::tags::kMaxTagLength) + " bytes");
 }

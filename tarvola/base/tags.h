@@ -45,6 +45,19 @@ std::string tag_part(std::string_view analysis);
 
 [[noreturn]] void tag_too_long(std::string_view tag);
 
+// Whether a text given from outside (a lemma, an extra text) can become
+// part of an analysis without ending the process: every "<" in it is closed
+// by a ">" within kMaxTagLength bytes. An open "<" would run on into the
+// tags that follow it in the analysis.
+inline bool tags_closed_in_time(std::string_view text) {
+  for (std::size_t i = text.find('<'); i != std::string_view::npos;) {
+    const std::size_t end = text.find('>', i + 1);
+    if (end == std::string_view::npos || end - i - 1 > kMaxTagLength) return false;
+    i = text.find('<', end + 1);
+  }
+  return true;
+}
+
 template <typename F>
 void for_each_tag(std::string_view s, F&& f) {
   std::size_t i = s.find('<');

@@ -18,6 +18,13 @@ printf 'etxea\ngiz\xfe\xff\xfca\n' | "$TOOL" analyze --config "$conf" --format j
 grep -q $'"word":"giz\xef\xbf\xbd' bad.json || fail "no replacement character: $(cat bad.json)"
 iconv -f UTF-8 -t UTF-8 bad.json > /dev/null || fail "JSON output is not UTF-8"
 
+# A lemma with an open "<" would end the engine: it is refused, and the
+# requests around it are still answered.
+long_tag="<$(printf 'a%.0s' $(seq 1 120))"
+printf 'etxe\t<IZE><ARR>\n%s\t<ARR>\netxe\t<IZE><ARR>\n' "$long_tag" |
+  "$TOOL" generate --config "$conf" > open.txt 2> open.err && fail "open tag in a lemma: exit 0"
+[ "$(grep -c . open.txt)" -ge 2 ] && grep -q 'not closed' open.err || fail "open tag: $(cat open.err)"
+
 # Enough text that the tool is still writing when head has gone.
 for i in $(seq 1 20000); do echo "Etxea ona da."; done > many.txt
 set +o pipefail
