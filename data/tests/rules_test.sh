@@ -61,6 +61,8 @@ expect cases 'hartu<vblex><pfut>' 'hartu<vblex><pfut>'
 # the project's own entries
 expect extra 'etab.' 'etab.<LAB>'
 expect extra 'konf.' 'konf.<LAB>'
+expect extra '2023a' '2023<DET><ZNB><NUMS><ABS>'
+expect extra '100ekoa' '100<DET><ZNB><MG><GEL><NUMS><ABS>'
 expect extra '#' '#<PUN>'
 expect extra '...' '...<PUN>'
 exit $failed
