@@ -1,7 +1,34 @@
 # Productive morphology built from the known forms (sourced by build-data.sh).
+# Each construction takes the known network's own readings and derives new
+# forms from them by composition, so that it reaches every lemma the
+# network knows (the converted analyser's and the project's lexicon's) and
+# nothing else: no stem is guessed.
 
-# build_productive WORK KNOWN OUT: the forms derived from KNOWN (a
-# transducer, surface to analysis) into OUT, in the same direction.
+# productive_rule NAME: compiles productive/NAME.regexp (one expression,
+# comment lines left out) into $PRODUCTIVE_WORK/NAME.hfst.
+productive_rule() {
+  grep -v '^#' "$HERE/eumorfo/productive/$1.regexp" | tr '\n' ' ' | sed 's/$/ ;/' > "$PRODUCTIVE_WORK/$1.txt"
+  hfst-regexp2fst -i "$PRODUCTIVE_WORK/$1.txt" -o "$PRODUCTIVE_WORK/$1.hfst"
+}
+
+# build_productive WORK KNOWN OUT: the forms derived from KNOWN (surface to
+# analysis) into OUT, in the same direction.
 build_productive() {
-  echo '[ "<NONE>" - "<NONE>" ] ;' | hfst-regexp2fst -o "$3"
+  PRODUCTIVE_WORK="$1/productive"
+  mkdir -p "$PRODUCTIVE_WORK"
+  for rule in bait_surface finite_verb bait_analysis vn_surface vn_analysis vn_cases; do
+    productive_rule "$rule"
+  done
+  p=$PRODUCTIVE_WORK
+  # bait- before a finite verb: the new spelling is rewritten to the verb's
+  # own (baitu -> du), the verb is read, and the prefix is written before
+  # its reading.
+  hfst-compose -1 "$p/bait_surface.hfst" -2 "$2" | hfst-compose -2 "$p/finite_verb.hfst" |
+    hfst-compose -2 "$p/bait_analysis.hfst" | hfst-minimize -o "$p/bait.hfst"
+  # The cases of the verbal noun the source lacks (ikustean,
+  # ikusterakoan): its singular absolutive (ikustea) less the article
+  # gives the verbal noun, which takes the new endings.
+  hfst-compose -1 "$p/vn_surface.hfst" -2 "$2" | hfst-compose -2 "$p/vn_analysis.hfst" |
+    hfst-concatenate -2 "$p/vn_cases.hfst" | hfst-minimize -o "$p/vn.hfst"
+  hfst-disjunct -1 "$p/bait.hfst" -2 "$p/vn.hfst" -o "$3"
 }

@@ -169,9 +169,14 @@ TEST(OwnForm, WordsOfTheConvertedMainNetwork) {
                     "handiago", "handiagoa", "hartu", "hartua", "hartuta", "hartutako", "hartzen",
                     "hartzeko", "da", "den", "dena", "dela", "denean", "zaio", "du", "dio", "gaur",
                     "gaurko", "ni", "nire", "nirea", "hura", "haiek", "zer", "bi", "bat", "bilbo",
-                    "aurrera", "aurrerago", "nahiko", "nahikoa"},
+                    "aurrera", "aurrerago", "nahiko", "nahikoa", "baitu", "bainaiz", "baikara",
+                    "ikustean", "irakurtzerakoan", "2023a", "100ekoa"},
                    &checked);
   EXPECT_GT(checked, 60u);
+  // Forms the data build derives or adds: each is read, and as what it is.
+  for (const char* word : {"baitu", "bainaiz", "baikara", "ikustean", "irakurtzerakoan", "2023a"})
+    EXPECT_FALSE(net.taula->analizatuTokena(word).empty()) << word;
+  EXPECT_TRUE(net.taula->analizatuTokena("baidu").empty());
 
   // The first distinct words of the corpus written in lower case.
   const std::string corpus = tarvola::testing::corpus_path("eu-news.cp1252.txt");
