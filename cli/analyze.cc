@@ -33,12 +33,8 @@ Runner register_analyze(CLI::App& parent) {
     if (!engine || !out.open(o.output, o.unbuffered)) return 2;
     bool read_ok = for_each_word(o.words, o, [&](const std::string& word, const EnginePiece& piece) {
       std::vector<tarvola::Analisia> readings =
-          args->network.empty() ? engine->get().analizatuTokena(piece.text())
+          args->network.empty() ? engine->word_readings(engine->get(), piece.text())
                                 : engine->get().analizatuTokena(piece.text(), args->network);
-      if (args->network.empty()) {
-        for (tarvola::Analisia& a : engine->dictionary_readings(piece.text()))
-          readings.push_back(std::move(a));
-      }
       if (o.json()) {
         write_json_line(out, {{"word", piece.restore(piece.text(), Encoding::kUtf8)},
                               {"readings", readings_json(readings, piece)}});

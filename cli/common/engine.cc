@@ -1,5 +1,6 @@
 #include "common/engine.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <exception>
 #include <fstream>
@@ -207,6 +208,22 @@ bool Engine::require_network(const std::string& name, const char* purpose) const
   std::cerr << "tarvola: the configuration has no network \"" << name << "\", needed " << purpose
             << "\n";
   return false;
+}
+
+std::vector<tarvola::Analisia> Engine::word_readings(tarvola::Tarvola& engine,
+                                                    const std::string& word) {
+  std::vector<tarvola::Analisia> all = engine.analizatuTokena(word);
+  std::vector<tarvola::Analisia> dictionary = dictionary_readings(word);
+  const bool known = !dictionary.empty() ||
+                     std::any_of(all.begin(), all.end(),
+                                 [](const tarvola::Analisia& a) { return a.sarea != "osag0"; });
+  std::vector<tarvola::Analisia> shown;
+  for (tarvola::Analisia& a : all) {
+    const bool guess = a.sarea == "osag0";
+    if (!guess || (!known && a.etiketa.find("Rare") == std::string::npos)) shown.push_back(std::move(a));
+  }
+  for (tarvola::Analisia& a : dictionary) shown.push_back(std::move(a));
+  return shown;
 }
 
 std::vector<tarvola::Analisia> Engine::dictionary_readings(const std::string& word) {

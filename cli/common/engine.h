@@ -70,6 +70,13 @@ class Engine {
   // a word; empty without a dictionary.
   std::vector<tarvola::Analisia> dictionary_readings(const std::string& word);
 
+  // The readings `analyze` shows for a word with `engine` (this engine's
+  // library object or a copy of it): every network's, then the personal
+  // dictionary's; the guesses of the compound network "osag0" only when
+  // nothing else reads the word, and never its "Rare" ones, as in running
+  // text.
+  std::vector<tarvola::Analisia> word_readings(tarvola::Tarvola& engine, const std::string& word);
+
  private:
   Engine() = default;
 

@@ -8,6 +8,7 @@
 % offer.
 
 #include "endings.fst"
+#include "izenak.fst"
 
 $L$ = [a-zñ]
 $STEM$ = $L$ $L$ $L$+
@@ -34,4 +35,4 @@ $J$ = \
 $R$ = \
   {\+dun<ADJ><IZO><OSA><Rare>}:{dun} $C$
 
-$STEM$ ($N$ | $J$ | $R$)
+$STEM$ ($N$ | $J$ | $R$) | $GUESSED_NAMES$

@@ -536,9 +536,7 @@ class Engine {
     // The tool's analyze: every network, then the personal dictionary; or
     // the one network asked for.
     if (!network.empty()) return own_->analizatuTokena(word, network);
-    std::vector<tarvola::Analisia> list = own_->analizatuTokena(word);
-    for (tarvola::Analisia& a : loaded_->engine->dictionary_readings(word)) list.push_back(std::move(a));
-    return list;
+    return loaded_->engine->word_readings(*own_, word);
   }
 
   std::string dictionary_path() const {
