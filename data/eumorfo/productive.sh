@@ -16,7 +16,7 @@ productive_rule() {
 build_productive() {
   PRODUCTIVE_WORK="$1/productive"
   mkdir -p "$PRODUCTIVE_WORK"
-  for rule in bait_surface finite_verb bait_analysis vn_surface vn_analysis vn_cases; do
+  for rule in bait_surface finite_verb bait_analysis vn_surface vn_analysis vn_cases ko_analysis ko_cases; do
     productive_rule "$rule"
   done
   p=$PRODUCTIVE_WORK
@@ -30,5 +30,8 @@ build_productive() {
   # gives the verbal noun, which takes the new endings.
   hfst-compose -1 "$p/vn_surface.hfst" -2 "$2" | hfst-compose -2 "$p/vn_analysis.hfst" |
     hfst-concatenate -2 "$p/vn_cases.hfst" | hfst-minimize -o "$p/vn.hfst"
-  hfst-disjunct -1 "$p/bait.hfst" -2 "$p/vn.hfst" -o "$3"
+  # The participle's -tako form declined (hartutakoa).
+  hfst-compose -1 "$2" -2 "$p/ko_analysis.hfst" | hfst-concatenate -2 "$p/ko_cases.hfst" |
+    hfst-minimize -o "$p/ko.hfst"
+  hfst-disjunct -1 "$p/bait.hfst" -2 "$p/vn.hfst" | hfst-disjunct -2 "$p/ko.hfst" -o "$3"
 }

@@ -170,11 +170,13 @@ TEST(OwnForm, WordsOfTheConvertedMainNetwork) {
                     "hartzeko", "da", "den", "dena", "dela", "denean", "zaio", "du", "dio", "gaur",
                     "gaurko", "ni", "nire", "nirea", "hura", "haiek", "zer", "bi", "bat", "bilbo",
                     "aurrera", "aurrerago", "nahiko", "nahikoa", "baitu", "bainaiz", "baikara",
-                    "ikustean", "irakurtzerakoan", "2023a", "100ekoa"},
+                    "ikustean", "irakurtzerakoan", "2023a", "100ekoa", "hartutakoa",
+                    "egindakoekin", "direktorioa", "bistaratzean", "Rijkaard"},
                    &checked);
   EXPECT_GT(checked, 60u);
   // Forms the data build derives or adds: each is read, and as what it is.
-  for (const char* word : {"baitu", "bainaiz", "baikara", "ikustean", "irakurtzerakoan", "2023a"})
+  for (const char* word : {"baitu", "bainaiz", "baikara", "ikustean", "irakurtzerakoan", "2023a",
+                           "hartutakoa", "direktorioa", "bistaratzean"})
     EXPECT_FALSE(net.taula->analizatuTokena(word).empty()) << word;
   EXPECT_TRUE(net.taula->analizatuTokena("baidu").empty());
 
