@@ -16,7 +16,8 @@ productive_rule() {
 build_productive() {
   PRODUCTIVE_WORK="$1/productive"
   mkdir -p "$PRODUCTIVE_WORK"
-  for rule in bait_surface finite_verb bait_analysis vn_surface vn_analysis vn_cases ko_analysis ko_cases; do
+  for rule in bait_surface finite_verb bait_analysis vn_surface vn_analysis vn_cases ko_analysis ko_cases \
+              place_names lower_first demonym_stem demonym_cases; do
     productive_rule "$rule"
   done
   p=$PRODUCTIVE_WORK
@@ -33,5 +34,12 @@ build_productive() {
   # The participle's -tako form declined (hartutakoa).
   hfst-compose -1 "$2" -2 "$p/ko_analysis.hfst" | hfst-concatenate -2 "$p/ko_cases.hfst" |
     hfst-minimize -o "$p/ko.hfst"
-  hfst-disjunct -1 "$p/bait.hfst" -2 "$p/vn.hfst" | hfst-disjunct -2 "$p/ko.hfst" -o "$3"
+  # Demonyms of the place names (gasteiztar, kataluniar), lemma and
+  # spelling in lower case.
+  hfst-compose -1 "$2" -2 "$p/place_names.hfst" | hfst-project -p input |
+    hfst-compose -2 "$p/lower_first.hfst" | hfst-compose -2 "$p/demonym_stem.hfst" |
+    hfst-project -p output | hfst-minimize | hfst-concatenate -2 "$p/demonym_cases.hfst" |
+    hfst-minimize -o "$p/demonym.hfst"
+  hfst-disjunct -1 "$p/bait.hfst" -2 "$p/vn.hfst" | hfst-disjunct -2 "$p/ko.hfst" |
+    hfst-disjunct -2 "$p/demonym.hfst" -o "$3"
 }
