@@ -27,7 +27,9 @@ lexicon_sfst() {
       l = $1; c = $2; kind = substr(c, 1, 1); cls = substr(c, 3)
       if (kind == "N") e = noun(l, "<IZE><ARR>", cls)
       else if (kind == "J") e = noun(l, "<ADJ><IZO>", cls)
+      else if (kind == "D") e = noun(l, "<DET><ZEHAR>", cls)
       else if (c == "B") e = "{" l "<ADB><BUK>}:{" l "}"
+      else if (c == "G") e = "{" l "<ADB><GAL><BUK>}:{" l "}"
       else if (c == "V_TU" || c == "V_ZI") {
         s = c == "V_TU" ? stem_tu(l) : substr(l, 1, length(l) - 1)
         e = "{" l "<ADI><PART>}:{" l "} $PART_V$ | {" l "<ADI><ADI_IZE>}:{" vn(s) "} ($VN$ | " \
