@@ -14,6 +14,7 @@
 #include "tarvola/analysis/Sarea.h"
 #include "tarvola/base/latin1.h"
 #include "tarvola/base/tags.h"
+#include "tarvola/engine/Tarvola.h"
 #include "tarvola/tables/Taula.h"
 
 namespace {
@@ -286,3 +287,28 @@ TEST(CorrectionsTable, ReplacementKeepsInflectionAndCase) {
   EXPECT_EQ(replacements(net, "Nere"), std::vector<std::string>({"Nire"}));
   EXPECT_EQ(replacements(net, "emen"), std::vector<std::string>({"hemen"}));
 }
+
+// Guessed proper nouns (osag0): a capitalised word nothing knows, and a name
+// with an ending after a hyphen, read as guesses that soften the verdict but
+// never make a word valid.
+TEST(GuessedNames, ReadInTextNeverValid) {
+  tarvola::testing::TempDir dir;
+  std::string conf;
+  for (const char* file : {"demo/eumorfoPG.txt", "tables/hpPG.txt", "tables/osag0PG.txt",
+                           "tables/zuzenketakPG.txt"})
+    conf += kData + file + "\n";
+  tarvola::Tarvola engine(dir.write("tarvola.conf", conf));
+
+  const std::string doc = engine.getParagrafoaBrindel("Gaur Xabierrek eta Rijkaard-ek etxia.", false);
+  EXPECT_NE(doc.find("<frm>Xabierrek</frm>\n\t<prop k=\"ok\"/>"), std::string::npos) << doc;
+  EXPECT_NE(doc.find("<frm>Rijkaard-ek</frm>\n\t<prop k=\"ok\"/>"), std::string::npos) << doc;
+  EXPECT_NE(doc.find("<frm>etxia</frm>\n\t<prop k=\"ezz\""), std::string::npos) << doc;
+
+  const auto readings = engine.analizatuTokena("Xabierrek", "osag0");
+  ASSERT_FALSE(readings.empty());
+  for (const auto& r : readings) EXPECT_NE(r.etiketa.find("ASMATUA"), std::string::npos) << r.analisia;
+  EXPECT_TRUE(engine.analizatuTokena("xabierrek", "osag0").empty());  // lower case: no name
+  EXPECT_FALSE(engine.isValid("Xabierrek", false));
+  EXPECT_FALSE(engine.isValid("Xabierrek", true));
+}
+
