@@ -9,6 +9,7 @@
 #include "common/io.h"
 #include "tarvola/base/tags.h"
 #include "tarvola/userdict/HiztegiPertsonala.h"
+#include "tarvola/userdict/dictionary_file.h"
 
 namespace tarvola_cli {
 
@@ -51,6 +52,25 @@ bool has_entry(const tarvola::HiztegiPertsonala& d, const std::string& lemma, co
   return false;
 }
 
+// The file without the lines of the word: every other line is kept as it
+// is written, those the loader skips (comments, a word without its
+// category) included. False when the file cannot be read.
+bool without_word(const std::string& path, const std::string& lemma, const std::string& category,
+                  std::string& text, bool& found) {
+  found = false;
+  text.clear();
+  const bool read = tarvola::userdict::for_each_line(path, [&](std::string_view line) {
+    const auto parsed = tarvola::userdict::parse_line(line);
+    if (parsed && parsed->lemma == lemma && parsed->category == category) {
+      found = true;
+      return;
+    }
+    if (!line.empty()) text.append("\n").append(line);
+  });
+  text += '\n';
+  return read;
+}
+
 }  // namespace
 
 Runner register_dict(CLI::App& parent) {
@@ -71,7 +91,7 @@ Runner register_dict(CLI::App& parent) {
       ->required();
   add->add_option("--extra1", args->extra1, "First extra text, carried into the readings");
   add->add_option("--extra2", args->extra2, "Second extra text (the file keeps only one of the two when both are given)");
-  CLI::App* remove = app->add_subcommand("remove", "Remove a word (the file is rewritten; its comments are lost).");
+  CLI::App* remove = app->add_subcommand("remove", "Remove a word (the file is rewritten; its other lines, comments included, are kept as they are).");
   remove->add_option("lemma", args->lemma, "The word")->required();
   remove->add_option("category", args->category, "Its category as it was added")->required();
   CLI::App* list = app->add_subcommand("list", "List the words: LEMMA<TAB>CATEGORY<TAB>EXTRA1<TAB>EXTRA2.");
@@ -85,6 +105,18 @@ Runner register_dict(CLI::App& parent) {
     if (!add->parsed() && !std::filesystem::exists(args->file)) {
       std::cerr << "tarvola: personal dictionary " << args->file << " not found\n";
       return 2;
+    }
+    // A change is made under the file's lock, on the file as it is then,
+    // so that programs changing it at the same time never lose each
+    // other's words.
+    std::unique_ptr<tarvola::userdict::DictionaryLock> lock;
+    if (add->parsed() || remove->parsed()) {
+      lock = std::make_unique<tarvola::userdict::DictionaryLock>(args->file);
+      if (!lock->held()) {
+        std::cerr << "tarvola: cannot lock the personal dictionary " << args->file << " (through "
+                  << args->file << ".lock)\n";
+        return 2;
+      }
     }
     tarvola::HiztegiPertsonala dictionary(args->file);
     if (add->parsed()) {
@@ -109,13 +141,27 @@ Runner register_dict(CLI::App& parent) {
                   << args->file << "\n";
         return 0;
       }
-      dictionary.gehitu_sarrera(true, lemma, category, extra1, extra2, "HP");
+      if (!tarvola::userdict::append_durably(
+              args->file, tarvola::userdict::appended_line(lemma, category, extra1, extra2))) {
+        std::cerr << "tarvola: could not write to the personal dictionary " << args->file << "\n";
+        return 2;
+      }
     } else if (remove->parsed()) {
-      if (!has_entry(dictionary, lemma, category)) {
+      std::string text;
+      bool found = false;
+      if (!without_word(args->file, lemma, category, text, found)) {
+        std::cerr << "tarvola: cannot read the personal dictionary " << args->file << "\n";
+        return 2;
+      }
+      if (!found) {
         std::cerr << "tarvola: " << args->lemma << " " << args->category << " is not in " << args->file << "\n";
         return 1;
       }
-      dictionary.kendu_sarrera(true, lemma, category);
+      if (!tarvola::userdict::replace_durably(args->file, text)) {
+        std::cerr << "tarvola: could not rewrite the personal dictionary " << args->file
+                  << "; it is left as it was\n";
+        return 2;
+      }
     } else if (list->parsed()) {
       Output out;
       if (!out.open("-", false)) return 2;

@@ -20,6 +20,7 @@
 #include <windows.h>
 #else
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -216,5 +217,49 @@ bool replace_durably(const std::string& path, std::string_view text) {
 #endif
   return true;
 }
+
+#ifdef _WIN32
+DictionaryLock::DictionaryLock(const std::string& path) {
+  const std::string name = path + ".lock";
+  HANDLE h = CreateFileA(name.c_str(), GENERIC_READ | GENERIC_WRITE,
+                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_ALWAYS,
+                         FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (h == INVALID_HANDLE_VALUE) return;
+  OVERLAPPED whole = {};
+  if (!LockFileEx(h, LOCKFILE_EXCLUSIVE_LOCK, 0, MAXDWORD, MAXDWORD, &whole)) {
+    CloseHandle(h);
+    return;
+  }
+  handle_ = h;
+  held_ = true;
+}
+
+DictionaryLock::~DictionaryLock() {
+  if (!handle_) return;
+  OVERLAPPED whole = {};
+  UnlockFileEx(static_cast<HANDLE>(handle_), 0, MAXDWORD, MAXDWORD, &whole);
+  CloseHandle(static_cast<HANDLE>(handle_));
+}
+#else
+DictionaryLock::DictionaryLock(const std::string& path) {
+  const std::string name = path + ".lock";
+  fd_ = open(name.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+  if (fd_ < 0) return;
+  int r;
+  do {
+    r = flock(fd_, LOCK_EX);
+  } while (r != 0 && errno == EINTR);
+  if (r != 0) {
+    close(fd_);
+    fd_ = -1;
+    return;
+  }
+  held_ = true;
+}
+
+DictionaryLock::~DictionaryLock() {
+  if (fd_ >= 0) close(fd_);  // closing releases the lock
+}
+#endif
 
 }  // namespace tarvola::userdict

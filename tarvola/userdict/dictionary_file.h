@@ -15,6 +15,8 @@
 #include <string>
 #include <string_view>
 
+#include "tarvola/export.h"
+
 namespace tarvola::userdict {
 
 struct DictionaryLine {
@@ -28,31 +30,58 @@ struct DictionaryLine {
 // Splits one line (without its line break). Comment lines ("//...") and
 // lines shorter than two bytes give nothing. The lemma ends at the first
 // tab or "|", the other columns at single tabs, the last runs to the end.
-std::optional<DictionaryLine> parse_line(std::string_view line);
+TARVOLA_API std::optional<DictionaryLine> parse_line(std::string_view line);
 
 // Calls f(line) for each line of the file, read in text mode, without its
 // line break (nor a carriage return before it, so a file edited on Windows
 // reads the same everywhere). False when the file cannot be opened.
-bool for_each_line(const std::string& path,
+TARVOLA_API bool for_each_line(const std::string& path,
                    const std::function<void(std::string_view)>& f);
 
 // The line an added word gets: a line break, then lemma, category and the
 // first non-empty extra text in its own column, "HP" last.
-std::string appended_line(std::string_view lemma, std::string_view category,
+TARVOLA_API std::string appended_line(std::string_view lemma, std::string_view category,
                           std::string_view extra1, std::string_view extra2);
 
 // A line of a rewritten file: a line break, then all five columns.
-std::string rewritten_line(std::string_view lemma, std::string_view category,
+TARVOLA_API std::string rewritten_line(std::string_view lemma, std::string_view category,
                            std::string_view extra1, std::string_view extra2);
 
 // Appends the text in text mode, creating the file when missing, and pushes
 // it to the disk before closing. False on any failure.
-bool append_durably(const std::string& path, std::string_view text);
+TARVOLA_API bool append_durably(const std::string& path, std::string_view text);
 
 // Replaces the file's content with the text (in text mode) through a
 // temporary file beside it and an atomic rename. On any failure the old file
 // is left untouched, the temporary file is removed and the result is false.
-bool replace_durably(const std::string& path, std::string_view text);
+TARVOLA_API bool replace_durably(const std::string& path, std::string_view text);
+
+// An exclusive lock on a dictionary file, held from construction to
+// destruction, so that programs changing the same file one after another
+// never write over each other's change: each takes the lock, reads the
+// file afresh, changes it and releases the lock. The lock is taken on a
+// file of its own beside the dictionary (PATH.lock, left in place), since a
+// rewrite renames a new dictionary over the old one and a lock on the old
+// one would not be met by the next writer. Advisory (flock) on POSIX,
+// LockFileEx on Windows; it waits for the holder.
+class TARVOLA_API DictionaryLock {
+ public:
+  explicit DictionaryLock(const std::string& path);
+  ~DictionaryLock();
+  DictionaryLock(const DictionaryLock&) = delete;
+  DictionaryLock& operator=(const DictionaryLock&) = delete;
+
+  // False when the lock file could not be opened or locked.
+  bool held() const { return held_; }
+
+ private:
+  bool held_ = false;
+#ifdef _WIN32
+  void* handle_ = nullptr;
+#else
+  int fd_ = -1;
+#endif
+};
 
 }  // namespace tarvola::userdict
 

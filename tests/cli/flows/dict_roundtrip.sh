@@ -29,4 +29,18 @@ status=0; "$TOOL" dict --dict d.txt add hitz '<ARR>' --extra1 '<ireki' 2>/dev/nu
 cmp -s before.txt d.txt || fail "refused words changed the file: $(cat d.txt)"
 status=0; "$TOOL" dict --dict none.txt list 2>/dev/null || status=$?
 [ $status = 2 ] || fail "missing dictionary: status $status"
+
+# 50 writers at once, adds and removes mixed: every change is in the file
+# afterwards, and the lines the loader skips are kept as they were.
+printf '// my words\nlonely line\n' > c.txt
+for i in $(seq 10 34); do printf '\nzahar%s\t<ARR>\t\t\tHP' "$i" >> c.txt; done
+for i in $(seq 10 34); do
+  "$TOOL" dict --dict c.txt remove "zahar$i" '<ARR>' &
+  "$TOOL" dict --dict c.txt add "berri$i" '<ARR>' &
+done
+wait
+"$TOOL" dict --dict c.txt list > c.list
+[ "$(grep -c '^berri' c.list)" = 25 ] || fail "adds lost: $(cat c.list)"
+grep -q '^zahar' c.list && fail "removals lost: $(cat c.list)"
+grep -qx '// my words' c.txt && grep -qx 'lonely line' c.txt || fail "skipped lines dropped: $(cat c.txt)"
 exit 0
