@@ -43,10 +43,10 @@ lexicon_sfst() {
 # build_lexicon WORK OUT: compiles the authored lexicon into OUT, surface on
 # the input side, analysis on the output side, in the tag set of TAGS.md.
 build_lexicon() {
-  lexicon_sfst "$HERE/lexicon/words.txt" > "$HERE/src/.lexicon.fst.tmp"
-  (cd "$HERE/src" && fst-compiler-utf8 .lexicon.fst.tmp "$1/lexicon.a" >/dev/null 2>"$1/lexicon.log") ||
-    { cat "$1/lexicon.log" >&2; rm -f "$HERE/src/.lexicon.fst.tmp"; exit 1; }
-  rm -f "$HERE/src/.lexicon.fst.tmp"
+  lexicon_sfst "$HERE/lexicon/words.txt" > "$1/lexicon.fst"
+  # Compiled from data/src, where its #include finds the endings.
+  (cd "$HERE/src" && fst-compiler-utf8 "$1/lexicon.fst" "$1/lexicon.a" >/dev/null 2>"$1/lexicon.log") ||
+    { cat "$1/lexicon.log" >&2; exit 1; }
   # SFST prints analysis then surface; hfst reads the input side first.
   fst-print "$1/lexicon.a" | awk 'BEGIN { FS = OFS = "\t" }
     NF >= 4 { for (i = 3; i <= 4; i++) if ($i == "<>") $i = "@0@"; print $1, $2, $4, $3; next }
