@@ -2,20 +2,16 @@
 #include <iostream>
 #include <memory>
 #include <string>
-#include <utility>
 
 #include "commands.h"
+#include "common/dictionary_change.h"
 #include "common/encoding.h"
 #include "common/io.h"
-#include "tarvola/base/tags.h"
 #include "tarvola/userdict/HiztegiPertsonala.h"
-#include "tarvola/userdict/dictionary_file.h"
 
 namespace tarvola_cli {
 
 namespace {
-
-const char* const kCategories[] = {"<ARR>", "<IZO>", "<ADI>", "<PIB>", "<LIB>", "<IZB>"};
 
 // The dictionary file is in code page 1252 and cannot hold a placeholder.
 bool to_file_text(const std::string& text, Encoding encoding, std::string& out) {
@@ -29,46 +25,6 @@ bool to_file_text(const std::string& text, Encoding encoding, std::string& out) 
   }
   out = decoded.bytes;
   return true;
-}
-
-// What would break the file or the analyses built from a field: a line
-// break or tab starts a new line or column; a "|" ends the lemma when the
-// file is read back; and the lemma and extra texts become part of every
-// analysis of the word, where a "<" opens a tag, one the engine ends the
-// whole process on when it runs past tags::kMaxTagLength bytes. Empty when
-// the field is fine.
-std::string field_problem(const std::string& text, bool lemma) {
-  if (text.find_first_of("\t\r\n") != std::string::npos) return "a tab or a line break";
-  if (lemma && text.find_first_of("|<>") != std::string::npos) return "\"|\", \"<\" or \">\"";
-  return tarvola::tags::tags_closed_in_time(text)
-             ? std::string()
-             : "a \"<\" not closed by \">\" within " + std::to_string(tarvola::tags::kMaxTagLength) +
-                   " bytes";
-}
-
-bool has_entry(const tarvola::HiztegiPertsonala& d, const std::string& lemma, const std::string& cat) {
-  for (const tarvola::HPsarrera* e : d.sarrerak)
-    if (e->lema == lemma && e->kategoria == cat) return true;
-  return false;
-}
-
-// The file without the lines of the word: every other line is kept as it
-// is written, those the loader skips (comments, a word without its
-// category) included. False when the file cannot be read.
-bool without_word(const std::string& path, const std::string& lemma, const std::string& category,
-                  std::string& text, bool& found) {
-  found = false;
-  text.clear();
-  const bool read = tarvola::userdict::for_each_line(path, [&](std::string_view line) {
-    const auto parsed = tarvola::userdict::parse_line(line);
-    if (parsed && parsed->lemma == lemma && parsed->category == category) {
-      found = true;
-      return;
-    }
-    if (!line.empty()) text.append("\n").append(line);
-  });
-  text += '\n';
-  return read;
 }
 
 }  // namespace
@@ -106,63 +62,35 @@ Runner register_dict(CLI::App& parent) {
       std::cerr << "tarvola: personal dictionary " << args->file << " not found\n";
       return 2;
     }
-    // A change is made under the file's lock, on the file as it is then,
-    // so that programs changing it at the same time never lose each
-    // other's words.
-    std::unique_ptr<tarvola::userdict::DictionaryLock> lock;
     if (add->parsed() || remove->parsed()) {
-      lock = std::make_unique<tarvola::userdict::DictionaryLock>(args->file);
-      if (!lock->held()) {
-        std::cerr << "tarvola: cannot lock the personal dictionary " << args->file << " (through "
-                  << args->file << ".lock)\n";
-        return 2;
+      // Under the file's lock, on the file as it is then.
+      if (add->parsed()) {
+        const std::string problem = entry_problem(lemma, category, extra1, extra2);
+        if (!problem.empty()) {
+          std::cerr << "tarvola: cannot add " << args->lemma << ": " << problem << "\n";
+          return 2;
+        }
       }
-    }
-    tarvola::HiztegiPertsonala dictionary(args->file);
-    if (add->parsed()) {
-      for (const auto& [field, text] : {std::pair<const char*, const std::string*>{"word", &lemma},
-                                        {"--extra1", &extra1}, {"--extra2", &extra2}}) {
-        const std::string problem = field_problem(*text, text == &lemma);
-        if (problem.empty()) continue;
-        std::cerr << "tarvola: the " << field << " holds " << problem
-                  << ", which the dictionary file cannot keep\n";
-        return 2;
-      }
-      bool known = false;
-      for (const char* c : kCategories) known = known || category == c;
-      if (!known || lemma.size() < 2) {
-        std::cerr << "tarvola: " << (known ? "the word must have two characters at least"
-                                           : "unknown category \"" + args->category + "\"; use one of <ARR> <IZO> <ADI> <PIB> <LIB> <IZB>")
-                  << "\n";
-        return 2;
-      }
-      if (has_entry(dictionary, lemma, category)) {
-        std::cerr << "tarvola: " << args->lemma << " " << args->category << " is already in "
-                  << args->file << "\n";
-        return 0;
-      }
-      if (!tarvola::userdict::append_durably(
-              args->file, tarvola::userdict::appended_line(lemma, category, extra1, extra2))) {
-        std::cerr << "tarvola: could not write to the personal dictionary " << args->file << "\n";
-        return 2;
-      }
-    } else if (remove->parsed()) {
-      std::string text;
-      bool found = false;
-      if (!without_word(args->file, lemma, category, text, found)) {
-        std::cerr << "tarvola: cannot read the personal dictionary " << args->file << "\n";
-        return 2;
-      }
-      if (!found) {
-        std::cerr << "tarvola: " << args->lemma << " " << args->category << " is not in " << args->file << "\n";
-        return 1;
-      }
-      if (!tarvola::userdict::replace_durably(args->file, text)) {
-        std::cerr << "tarvola: could not rewrite the personal dictionary " << args->file
-                  << "; it is left as it was\n";
-        return 2;
+      const DictionaryChange change = add->parsed()
+                                          ? add_entry(args->file, lemma, category, extra1, extra2)
+                                          : remove_entry(args->file, lemma, category);
+      switch (change) {
+        case DictionaryChange::kDone:
+          return 0;
+        case DictionaryChange::kAlreadyThere:
+          std::cerr << "tarvola: " << args->lemma << " " << args->category << " is already in "
+                    << args->file << "\n";
+          return 0;
+        case DictionaryChange::kNotThere:
+          std::cerr << "tarvola: " << args->lemma << " " << args->category << " is not in " << args->file
+                    << "\n";
+          return 1;
+        default:
+          std::cerr << "tarvola: " << failure_message(change, args->file) << "\n";
+          return 2;
       }
     } else if (list->parsed()) {
+      tarvola::HiztegiPertsonala dictionary(args->file);
       Output out;
       if (!out.open("-", false)) return 2;
       EnginePiece plain;

@@ -68,7 +68,8 @@ def include_dirs():
 
 sources = sorted(glob.glob(os.path.join(TOP, "tarvola", "**", "*.cpp"), recursive=True))
 sources += [os.path.join(CLI, "common", n + ".cc")
-            for n in ("encoding", "engine", "io", "json", "paragraphs", "platform")]
+            for n in ("dictionary_change", "encoding", "engine", "io", "json", "paragraphs",
+                      "platform")]
 sources.append(os.path.join(HERE, "src", "module.cc"))
 
 extension = Extension(

@@ -26,6 +26,7 @@
 #include <utility>
 #include <vector>
 
+#include "common/dictionary_change.h"
 #include "common/encoding.h"
 #include "common/engine.h"
 #include "common/io.h"
@@ -449,38 +450,21 @@ class Engine {
     return py::str(loaded_->dictionary);
   }
 
-  // The personal dictionary: the file is changed the way the tool's "dict"
-  // subcommand changes it, then this engine is rebuilt so that every
-  // operation sees the change.
+  // The personal dictionary (see changed()).
   bool add_word(const py::handle& lemma, const py::handle& category, const py::handle& extra1,
                 const py::handle& extra2) {
     const std::string l = file_text(lemma, "lemma"), c = file_text(category, "category"),
                       e1 = file_text(extra1, "extra1"), e2 = file_text(extra2, "extra2");
-    static const char* const kCategories[] = {"<ARR>", "<IZO>", "<ADI>", "<PIB>", "<LIB>", "<IZB>"};
-    bool known = false;
-    for (const char* k : kCategories) known = known || c == k;
-    if (!known)
-      throw py::value_error("unknown category \"" + c + "\"; use one of <ARR> <IZO> <ADI> <PIB> <LIB> <IZB>");
-    if (l.size() < 2) throw py::value_error("the word must have two characters at least");
-    if (l.find_first_of("|<>") != std::string::npos)
-      throw py::value_error("the word cannot hold \"|\", \"<\" or \">\"");
-    for (const std::string* e : {&e1, &e2})
-      if (e->find_first_of("<>") != std::string::npos)
-        throw py::value_error("an extra text cannot hold \"<\" or \">\"");
-    return change_dictionary([&](tarvola::HiztegiPertsonala& d) {
-      if (has_entry(d, l, c)) return false;
-      d.gehitu_sarrera(true, l, c, e1, e2, "HP");
-      return true;
-    });
+    const std::string problem = tarvola_cli::entry_problem(l, c, e1, e2);
+    if (!problem.empty()) throw py::value_error(problem);
+    const std::string path = dictionary_path();
+    return changed(tarvola_cli::add_entry(path, l, c, e1, e2), path);
   }
 
   bool remove_word(const py::handle& lemma, const py::handle& category) {
     const std::string l = file_text(lemma, "lemma"), c = file_text(category, "category");
-    return change_dictionary([&](tarvola::HiztegiPertsonala& d) {
-      if (!has_entry(d, l, c)) return false;
-      d.kendu_sarrera(true, l, c);
-      return true;
-    });
+    const std::string path = dictionary_path();
+    return changed(tarvola_cli::remove_entry(path, l, c), path);
   }
 
   py::list words() {
@@ -559,32 +543,21 @@ class Engine {
     return decoded.bytes;
   }
 
-  static bool has_entry(const tarvola::HiztegiPertsonala& d, const std::string& l, const std::string& c) {
-    for (const tarvola::HPsarrera* e : d.sarrerak)
-      if (e->lema == l && e->kategoria == c) return true;
-    return false;
-  }
-
-  template <typename F>
-  bool change_dictionary(F&& change) {
-    const std::string path = dictionary_path();
-    bool changed = false;
-    {
-      std::lock_guard<std::mutex> own(mutex_);
-      std::lock_guard<std::mutex> lock(process_lock());
-      tarvola_cli::StdoutCapture capture;
-      capture.run([&] {
-        tarvola::HiztegiPertsonala d(path);
-        changed = change(d);
-      });
+  // The file is changed the way the tool's "dict" subcommand changes it
+  // (under its lock); a change rebuilds this engine, so that every
+  // operation sees it.
+  bool changed(tarvola_cli::DictionaryChange change, const std::string& path) {
+    using tarvola_cli::DictionaryChange;
+    if (change == DictionaryChange::kAlreadyThere || change == DictionaryChange::kNotThere) return false;
+    if (change != DictionaryChange::kDone) {
+      PyErr_SetString(PyExc_OSError, tarvola_cli::failure_message(change, path).c_str());
+      throw py::error_already_set();
     }
-    if (changed) {
-      std::shared_ptr<Loaded> fresh = load(loaded_->config, loaded_->dictionary);
-      std::lock_guard<std::mutex> own(mutex_);
-      detach();
-      attach(std::move(fresh));
-    }
-    return changed;
+    std::shared_ptr<Loaded> fresh = load(loaded_->config, loaded_->dictionary);
+    std::lock_guard<std::mutex> own(mutex_);
+    detach();
+    attach(std::move(fresh));
+    return true;
   }
 
   std::mutex mutex_;

@@ -1,7 +1,9 @@
 #include "tarvola/userdict/dictionary_file.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 
 #include "tarvola/base/tags.h"
@@ -189,10 +191,22 @@ bool rename_over(const std::string& from, const std::string& to) {
 
 bool append_durably(const std::string& path, std::string_view text) {
   if (path.empty()) return false;
+  std::error_code ec;
+  const bool existed = std::filesystem::exists(path, ec);
   std::FILE* f = std::fopen(path.c_str(), "a");
   if (!f) return false;
-  const bool written = write_all(f, text) && flush_to_disk(f);
-  return std::fclose(f) == 0 && written;
+  // Where the old content ends: a write that fails part way (a full disk)
+  // is cut back to it, so that no half line is left behind.
+  const long old_size = std::fseek(f, 0, SEEK_END) == 0 ? std::ftell(f) : -1L;
+  bool written = old_size >= 0 && write_all(f, text) && flush_to_disk(f);
+  written = std::fclose(f) == 0 && written;
+  if (!written && old_size >= 0) {
+    if (existed)
+      std::filesystem::resize_file(path, static_cast<std::uintmax_t>(old_size), ec);
+    else
+      std::filesystem::remove(path, ec);
+  }
+  return written;
 }
 
 bool replace_durably(const std::string& path, std::string_view text) {

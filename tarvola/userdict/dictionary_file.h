@@ -48,7 +48,8 @@ TARVOLA_API std::string rewritten_line(std::string_view lemma, std::string_view 
                            std::string_view extra1, std::string_view extra2);
 
 // Appends the text in text mode, creating the file when missing, and pushes
-// it to the disk before closing. False on any failure.
+// it to the disk before closing. False on any failure, the file then cut
+// back to its old content (removed when the append created it).
 TARVOLA_API bool append_durably(const std::string& path, std::string_view text);
 
 // Replaces the file's content with the text (in text mode) through a

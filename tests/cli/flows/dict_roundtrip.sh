@@ -43,4 +43,19 @@ wait
 [ "$(grep -c '^berri' c.list)" = 25 ] || fail "adds lost: $(cat c.list)"
 grep -q '^zahar' c.list && fail "removals lost: $(cat c.list)"
 grep -qx '// my words' c.txt && grep -qx 'lonely line' c.txt || fail "skipped lines dropped: $(cat c.txt)"
+
+# A full file system: both changes fail with exit 2, naming the file, and
+# the file is left as it was. Needs root to mount a small tmpfs.
+if [ "$(id -u)" = 0 ] && mkdir -p full && mount -t tmpfs -o size=64k tmpfs full 2>/dev/null; then
+  trap 'umount "$PWD/full" 2>/dev/null' EXIT
+  # A file of exactly one page, so that an append needs a new one.
+  { printf '//'; head -c 4077 /dev/zero | tr '\0' x; printf '\nmendi\t<ARR>\t\t\tHP'; } > full/d.txt
+  cp full/d.txt full.before
+  head -c 1M /dev/zero > full/filler 2>/dev/null || true
+  for change in "add ibai <ARR>" "remove mendi <ARR>"; do
+    status=0; "$TOOL" dict --dict full/d.txt $change 2> full.err || status=$?
+    [ $status = 2 ] && grep -q "full/d.txt" full.err || fail "$change on a full disk: status $status, $(cat full.err)"
+  done
+  cmp -s full.before full/d.txt || fail "a failed write changed the file: $(tail -c 40 full/d.txt)"
+fi
 exit 0
