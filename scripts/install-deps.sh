@@ -11,10 +11,12 @@ packages="cmake g++ make libcli11-dev nlohmann-json3-dev"
 case "$kind" in
   demo) packages="$packages apertium-eu-es lttoolbox lttoolbox-dev hfst sfst" ;;
   test) packages="$packages libgtest-dev libgmock-dev apertium-eu-es lttoolbox lttoolbox-dev hfst sfst cg3
-        python3-dev pybind11-dev python3-pytest python3-dask python3-distributed" ;;
+        python3-dev pybind11-dev python3-pytest python3-dask python3-distributed
+        pkg-config libenchant-2-dev enchant-2 python3-enchant" ;;
   ci) packages="$packages libgtest-dev libgmock-dev apertium-eu-es lttoolbox lttoolbox-dev hfst sfst cg3 foma
         libbenchmark-dev g++-mingw-w64-x86-64 binutils-mingw-w64-x86-64 clang-14 libclang-rt-14-dev
-        python3-dev pybind11-dev python3-pytest python3-dask python3-distributed python3-pip python3-setuptools" ;;
+        python3-dev pybind11-dev python3-pytest python3-dask python3-distributed python3-pip python3-setuptools
+        pkg-config libenchant-2-dev enchant-2 python3-enchant" ;;
   *) echo "usage: $0 demo|test|ci" >&2; exit 2 ;;
 esac
 

@@ -187,6 +187,7 @@ Engine::~Engine() {
   StdoutCapture capture;
   std::string said = capture.run([this] {
     hp_network_.reset();
+    session_.reset();
     dictionary_.reset();
     tarvola_.reset();
   });
@@ -226,23 +227,43 @@ std::vector<tarvola::Analisia> Engine::word_readings(tarvola::Tarvola& engine,
   return shown;
 }
 
-std::vector<tarvola::Analisia> Engine::dictionary_readings(const std::string& word) {
-  if (dict_path_.empty() || !has_network("hp")) return {};
-  if (!dictionary_) {
+tarvola::Sarea* Engine::hp_network() {
+  if (!hp_network_ && has_network("hp")) {
     // The last entry of a name is the one the engine keeps.
     std::string table;
     for (const NetworkEntry& n : networks_)
       if (n.name == "hp") table = n.written;
     StdoutCapture capture;
     std::string said = capture.run([&] {
-      dictionary_ = std::make_unique<tarvola::HiztegiPertsonala>(dict_path_);
       in_folder(folder_, [&] {
         hp_network_ = std::make_unique<tarvola::Sarea>("hp", table, new tarvola::Taula(table));
       });
     });
     forward_diagnostics(said, verbose_);
   }
-  return dictionary_->analizatu(word, hp_network_.get());
+  return hp_network_.get();
+}
+
+std::vector<tarvola::Analisia> Engine::dictionary_readings(const std::string& word) {
+  if ((dict_path_.empty() && !session_) || hp_network() == nullptr) return {};
+  if (!dictionary_ && !dict_path_.empty()) {
+    StdoutCapture capture;
+    std::string said = capture.run(
+        [&] { dictionary_ = std::make_unique<tarvola::HiztegiPertsonala>(dict_path_); });
+    forward_diagnostics(said, verbose_);
+  }
+  std::vector<tarvola::Analisia> readings;
+  if (dictionary_) readings = dictionary_->analizatu(word, hp_network_.get());
+  if (session_)
+    for (tarvola::Analisia& a : session_->analizatu(word, hp_network_.get())) readings.push_back(std::move(a));
+  return readings;
+}
+
+bool Engine::add_session_word(const std::string& lemma, const std::string& category) {
+  if (hp_network() == nullptr) return false;
+  if (!session_) session_ = std::make_unique<tarvola::HiztegiPertsonala>();
+  session_->gehitu_sarrera(false, lemma, category, "", "", "HP");
+  return true;
 }
 
 }  // namespace tarvola_cli

@@ -67,8 +67,14 @@ class Engine {
   const std::vector<NetworkEntry>& networks() const { return networks_; }
 
   // The readings of the personal dictionary (through the "hp" network) for
-  // a word; empty without a dictionary.
+  // a word, then those of the session's words; empty without either.
   std::vector<tarvola::Analisia> dictionary_readings(const std::string& word);
+
+  // Takes a word (a personal-dictionary lemma and category) for this
+  // engine's lifetime, read like the dictionary file's words but never
+  // written: an editor's "ignore all", or a word just added to the file,
+  // which this engine read before. False without an "hp" network.
+  bool add_session_word(const std::string& lemma, const std::string& category);
 
   // The readings `analyze` shows for a word with `engine` (this engine's
   // library object or a copy of it): every network's, then the personal
@@ -85,8 +91,13 @@ class Engine {
   std::string dict_path_;
   bool verbose_ = false;
   std::unique_ptr<tarvola::Tarvola> tarvola_;
-  // The dictionary lookup and its own "hp" network (owning its table).
+  // Builds hp_network_ on first use; null without an "hp" network.
+  tarvola::Sarea* hp_network();
+
+  // The dictionary lookup, the session's words, and their own "hp" network
+  // (owning its table).
   std::unique_ptr<tarvola::HiztegiPertsonala> dictionary_;
+  std::unique_ptr<tarvola::HiztegiPertsonala> session_;
   std::unique_ptr<tarvola::Sarea> hp_network_;
 };
 
