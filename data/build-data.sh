@@ -143,5 +143,5 @@ hpPG.txt
 osag0PG.txt
 zuzenketakPG.txt
 CONF
-rm -rf "$WORK"
+[ -n "${TARVOLA_KEEP_WORK:-}" ] || rm -rf "$WORK"
 echo "build-data: data set in $OUT ($(( $(date +%s) - start )) s)" >&2

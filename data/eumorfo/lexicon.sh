@@ -40,15 +40,17 @@ lexicon_sfst() {
     END { print "" }' "$1"
 }
 
-# build_lexicon WORK OUT: compiles the authored lexicon into OUT, surface on
-# the input side, analysis on the output side, in the tag set of TAGS.md.
+# build_lexicon WORK OUT [WORDS]: compiles the authored lexicon (or another
+# list of the same shape) into OUT, surface on the input side, analysis on
+# the output side, in the tag set of TAGS.md.
 build_lexicon() {
-  lexicon_sfst "$HERE/lexicon/words.txt" > "$1/lexicon.fst"
+  name=$(basename "$2" .hfst)
+  lexicon_sfst "${3:-$HERE/lexicon/words.txt}" > "$1/$name.fst"
   # Compiled from data/src, where its #include finds the endings.
-  (cd "$HERE/src" && fst-compiler-utf8 "$1/lexicon.fst" "$1/lexicon.a" >/dev/null 2>"$1/lexicon.log") ||
-    { cat "$1/lexicon.log" >&2; exit 1; }
+  (cd "$HERE/src" && fst-compiler-utf8 "$1/$name.fst" "$1/$name.a" >/dev/null 2>"$1/$name.log") ||
+    { cat "$1/$name.log" >&2; exit 1; }
   # SFST prints analysis then surface; hfst reads the input side first.
-  fst-print "$1/lexicon.a" | awk 'BEGIN { FS = OFS = "\t" }
+  fst-print "$1/$name.a" | awk 'BEGIN { FS = OFS = "\t" }
     NF >= 4 { for (i = 3; i <= 4; i++) if ($i == "<>") $i = "@0@"; print $1, $2, $4, $3; next }
     { print $1 }' | hfst-txt2fst -o "$2"
 }

@@ -29,6 +29,30 @@ $IZ_GUESS$ = <IZE>:<> <IZB>:<> <ASMATUA>:<>
 % letters are read one by one: the stem's last letter is not checked.
 $IZ_ENDINGS$ = $LV$ | $LCV$ | $LCT$
 
-$GUESSED_NAMES$ = $IZ_NAME$ $IZ_GUESS$ $IZ_ENDINGS$ | \
-  $IZ_HNAME$ $IZ_GUESS$ <>:\- ($LV$ | $LCV$ | $LCT$ | {<NUMS><ABS>}:{a} | {<NUMS><ERG>}:{ak} | \
-    {<NUMP><ABS>}:{ak} | {<NUMS><INE>}:{an} | {<NUMS><INE>}:{ean})
+% After a hyphen, a foreign name ending in a consonant also takes -eko and
+% -etik (Euspot-eko, Bakersfield-etik).
+$IZ_HYPHENED$ = $LV$ | $LCV$ | $LCT$ | {<NUMS><ABS>}:{a} | {<NUMS><ERG>}:{ak} | \
+  {<NUMP><ABS>}:{ak} | {<NUMS><INE>}:{an} | {<NUMS><INE>}:{ean} | \
+  {<MG><GEL><MG><ABS>}:{eko} | {<MG><ABL><BUK>}:{etik}
+
+% A case ending standing alone: written after the closing quote of a title
+% ("Hitzokei"n, 'Maldita'ren, "Hitzokei"ra), it is a token of its own. Read
+% as a guessed suffix (<ATZ>, lemma the ending): the "MAT" of <ASMATUA>
+% keeps the validity check from accepting the bare ending, so only the
+% correction document of running text takes it.
+$IZ_SUFFIX$ = <ATZ>:<> <ASMATUA>:<>
+$IZ_ALONE$ = \
+  {n}:{n} $IZ_SUFFIX$ <MG>:<> <INE>:<> | {en}:{en} $IZ_SUFFIX$ <MG>:<> <GEN>:<> | \
+  {ren}:{ren} $IZ_SUFFIX$ <MG>:<> <GEN>:<> | {ra}:{ra} $IZ_SUFFIX$ <MG>:<> <ALA>:<> | \
+  {era}:{era} $IZ_SUFFIX$ <MG>:<> <ALA>:<> | {ko}:{ko} $IZ_SUFFIX$ <MG>:<> <GEL>:<> | \
+  {eko}:{eko} $IZ_SUFFIX$ <MG>:<> <GEL>:<> | {tik}:{tik} $IZ_SUFFIX$ <MG>:<> <ABL>:<> | \
+  {etik}:{etik} $IZ_SUFFIX$ <MG>:<> <ABL>:<> | {k}:{k} $IZ_SUFFIX$ <MG>:<> <ERG>:<> | \
+  {ek}:{ek} $IZ_SUFFIX$ <MG>:<> <ERG>:<> | {ri}:{ri} $IZ_SUFFIX$ <MG>:<> <DAT>:<> | \
+  {rekin}:{rekin} $IZ_SUFFIX$ <MG>:<> <SOZ>:<> | {ekin}:{ekin} $IZ_SUFFIX$ <MG>:<> <SOZ>:<> | \
+  {rentzat}:{rentzat} $IZ_SUFFIX$ <MG>:<> <DES>:<> | {z}:{z} $IZ_SUFFIX$ <MG>:<> <INS>:<> | \
+  {a}:{a} $IZ_SUFFIX$ <NUMS>:<> <ABS>:<> | {ak}:{ak} $IZ_SUFFIX$ <NUMS>:<> <ERG>:<> | \
+  {an}:{an} $IZ_SUFFIX$ <NUMS>:<> <INE>:<> | {ean}:{ean} $IZ_SUFFIX$ <NUMS>:<> <INE>:<> | \
+  {aren}:{aren} $IZ_SUFFIX$ <NUMS>:<> <GEN>:<> | {ari}:{ari} $IZ_SUFFIX$ <NUMS>:<> <DAT>:<> | \
+  {arekin}:{arekin} $IZ_SUFFIX$ <NUMS>:<> <SOZ>:<>
+
+$GUESSED_NAMES$ = $IZ_NAME$ $IZ_GUESS$ $IZ_ENDINGS$ | $IZ_HNAME$ $IZ_GUESS$ <>:\- $IZ_HYPHENED$ | $IZ_ALONE$

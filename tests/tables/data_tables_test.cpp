@@ -177,7 +177,8 @@ TEST(OwnForm, WordsOfTheConvertedMainNetwork) {
   EXPECT_GT(checked, 60u);
   // Forms the data build derives or adds: each is read, and as what it is.
   for (const char* word : {"baitu", "bainaiz", "baikara", "ikustean", "irakurtzerakoan", "2023a",
-                           "hartutakoa", "direktorioa", "bistaratzean"})
+                           "hartutakoa", "direktorioa", "bistaratzean", "ekaitzaldia", "deabrutxoak",
+                           "esklusiboki"})
     EXPECT_FALSE(net.taula->analizatuTokena(word).empty()) << word;
   EXPECT_TRUE(net.taula->analizatuTokena("baidu").empty());
 
@@ -299,16 +300,18 @@ TEST(GuessedNames, ReadInTextNeverValid) {
     conf += kData + file + "\n";
   tarvola::Tarvola engine(dir.write("tarvola.conf", conf));
 
-  const std::string doc = engine.getParagrafoaBrindel("Gaur Xabierrek eta Rijkaard-ek etxia.", false);
-  EXPECT_NE(doc.find("<frm>Xabierrek</frm>\n\t<prop k=\"ok\"/>"), std::string::npos) << doc;
-  EXPECT_NE(doc.find("<frm>Rijkaard-ek</frm>\n\t<prop k=\"ok\"/>"), std::string::npos) << doc;
+  // Names, a hyphen's ending, an ending after a title's closing quote.
+  const std::string doc =
+      engine.getParagrafoaBrindel("Gaur Xabierrek eta Euspot-eko \"Hitzokei\"n etxia.", false);
+  for (const char* ok : {"Xabierrek", "Euspot-eko", "n"})
+    EXPECT_NE(doc.find(std::string("<frm>") + ok + "</frm>\n\t<prop k=\"ok\"/>"), std::string::npos) << ok << doc;
   EXPECT_NE(doc.find("<frm>etxia</frm>\n\t<prop k=\"ezz\""), std::string::npos) << doc;
 
   const auto readings = engine.analizatuTokena("Xabierrek", "osag0");
   ASSERT_FALSE(readings.empty());
   for (const auto& r : readings) EXPECT_NE(r.etiketa.find("ASMATUA"), std::string::npos) << r.analisia;
   EXPECT_TRUE(engine.analizatuTokena("xabierrek", "osag0").empty());  // lower case: no name
-  EXPECT_FALSE(engine.isValid("Xabierrek", false));
+  for (const char* word : {"Xabierrek", "n", "ren"}) EXPECT_FALSE(engine.isValid(word, false)) << word;
   EXPECT_FALSE(engine.isValid("Xabierrek", true));
 }
 
