@@ -3,9 +3,13 @@
 % reads a stem of at least three letters followed by one of a few
 % productive word-forming suffixes and inflects the result; the lemma is
 % written "stem+suffix" (the analysis record drops the "+"), the tag <OSA>
-% says the reading was put together here. Guesses for suffixes that often
-% end unrelated words are also tagged <Rare>, which the pipeline does not
-% offer.
+% says the reading was put together here. Every such guess is also tagged
+% <ASMATUA> ("guessed"): the stem is unknown, so its "MAT" keeps the
+% validity check from counting it (a slip such as "aurkentu" would
+% otherwise read as aurken+tsu, be valid and be offered as a suggestion),
+% while running text still takes the word. The same suffixes after a known
+% lemma are real words, derived in the main network
+% (data/lexicon/suffixes.txt).
 
 #include "endings.fst"
 #include "izenak.fst"
@@ -15,21 +19,21 @@ $STEM$ = $L$ $L$ $L$+
 
 % nouns
 $N$ = \
-  {\+tasun<IZE><ARR><OSA>}:{tasun} $C$ | \
-  {\+tzaile<IZE><ARR><OSA>}:{tzaile} $V$ | \
-  {\+tegi<IZE><ARR><OSA>}:{tegi} $V$ | \
-  {\+kide<IZE><ARR><OSA>}:{kide} $V$ | \
-  {\+gile<IZE><ARR><OSA>}:{gile} $V$ | \
-  {\+keria<IZE><ARR><OSA>}:{keria} $A$ | {\+keria<IZE><ARR><OSA>}:{keri} $PL$ | \
-  {\+gintza<IZE><ARR><OSA>}:{gintza} $A$ | {\+gintza<IZE><ARR><OSA>}:{gintz} $PL$
+  {\+tasun<IZE><ARR><OSA><ASMATUA>}:{tasun} $C$ | \
+  {\+tzaile<IZE><ARR><OSA><ASMATUA>}:{tzaile} $V$ | \
+  {\+tegi<IZE><ARR><OSA><ASMATUA>}:{tegi} $V$ | \
+  {\+kide<IZE><ARR><OSA><ASMATUA>}:{kide} $V$ | \
+  {\+gile<IZE><ARR><OSA><ASMATUA>}:{gile} $V$ | \
+  {\+keria<IZE><ARR><OSA><ASMATUA>}:{keria} $A$ | {\+keria<IZE><ARR><OSA><ASMATUA>}:{keri} $PL$ | \
+  {\+gintza<IZE><ARR><OSA><ASMATUA>}:{gintza} $A$ | {\+gintza<IZE><ARR><OSA><ASMATUA>}:{gintz} $PL$
 
 % adjectives
 $J$ = \
-  {\+garri<ADJ><IZO><OSA>}:{garri} $V$ | \
-  {\+tsu<ADJ><IZO><OSA>}:{tsu} $V$ | \
-  {\+zale<ADJ><IZO><OSA>}:{zale} $V$ | \
-  {\+ezin<ADJ><IZO><OSA>}:{ezin} $C$ | \
-  {\+gabe<ADJ><IZO><OSA>}:{gabe} $V$
+  {\+garri<ADJ><IZO><OSA><ASMATUA>}:{garri} $V$ | \
+  {\+tsu<ADJ><IZO><OSA><ASMATUA>}:{tsu} $V$ | \
+  {\+zale<ADJ><IZO><OSA><ASMATUA>}:{zale} $V$ | \
+  {\+ezin<ADJ><IZO><OSA><ASMATUA>}:{ezin} $C$ | \
+  {\+gabe<ADJ><IZO><OSA><ASMATUA>}:{gabe} $V$
 
 % -dun ends too many unrelated words to be offered
 $R$ = \

@@ -121,22 +121,25 @@ std::vector<BlankSplit> blank_candidates(const std::string& word) {
 std::vector<std::string> one_letter_candidates(const std::string& word) {
   Level level(word);
   const CaseOf case_of(word);
-  // A letter typed once too often: deleting a doubled letter gives one
-  // candidate, not two.
-  for (std::size_t at = 0; at < word.size(); ++at) level.add(case_of.replace(at, 1, ""));
   // A letter left out, at any place; it takes capitals only in an
-  // all-capital word.
+  // all-capital word. First: a word one letter shorter than the intended
+  // one is very often some other, shorter word too (ian: ia, izan), while
+  // a word one letter longer than the word typed is rarely a word unless
+  // it is the intended one.
   for (std::size_t at = 0; at <= word.size(); ++at) {
     for (const char* letter = kInsertedLetters; *letter; ++letter) {
       level.add(word.substr(0, at) + case_of.fit(std::string(1, *letter), std::string::npos) +
                 word.substr(at));
     }
   }
+  // A letter typed once too often: deleting a doubled letter gives one
+  // candidate, not two.
+  for (std::size_t at = 0; at < word.size(); ++at) level.add(case_of.replace(at, 1, ""));
   // A letter mistyped for another. Last, since a word one letter longer or
   // shorter is the likelier slip where both are words; here rather than in
   // the last level alone, which is reached only when this one finds nothing,
-  // so that a mistyped letter is still corrected when a deletion or an
-  // insertion happens to make some other word.
+  // so that a mistyped letter is still corrected when an insertion or a
+  // deletion happens to make some other word.
   for (std::size_t at = 0; at < word.size(); ++at) {
     for (const char* letter = kInsertedLetters; *letter; ++letter) {
       std::string candidate = word;
