@@ -23,10 +23,19 @@ lexicon_sfst() {
       if (cls == "A") return "{" l cat "}:{" l "} $A$ | {" l cat "}:{" substr(l, 1, length(l) - 1) "} $PL$"
       if (cls == "R") return "{" l cat "}:{" l "} $BARE$ | {" l cat "}:{" l "r} $CV$"
     }
+    # An adjective compares (ospetsuago, ospetsuena, ospetsuegi), the
+    # comparative and the excessive declined as a vowel stem, the
+    # superlative as a consonant one; not after an organic a.
+    function degrees(l, cls,   s) {
+      if (cls == "A") return ""
+      s = cls == "R" ? l "r" : l
+      return " | {" l "<ADJ><IZO><GRA><KONP>}:{" s "ago} $V$ | {" l "<ADJ><IZO><GRA><SUP>}:{" s "en} $C$" \
+             " | {" l "<ADJ><IZO><GRA><GEH>}:{" s "egi} $V$"
+    }
     !/^#/ && NF == 2 {
       l = $1; c = $2; kind = substr(c, 1, 1); cls = substr(c, 3)
       if (kind == "N") e = noun(l, "<IZE><ARR>", cls)
-      else if (kind == "J") e = noun(l, "<ADJ><IZO>", cls)
+      else if (kind == "J") e = noun(l, "<ADJ><IZO>", cls) degrees(l, cls)
       else if (kind == "D") e = noun(l, "<DET><ZEHAR>", cls)
       else if (c == "B") e = "{" l "<ADB><BUK>}:{" l "}"
       else if (c == "G") e = "{" l "<ADB><GAL><BUK>}:{" l "}"

@@ -31,7 +31,8 @@ build_productive() {
   # gives the verbal noun, which takes the new endings.
   hfst-compose -1 "$p/vn_surface.hfst" -2 "$2" | hfst-compose -2 "$p/vn_analysis.hfst" |
     hfst-concatenate -2 "$p/vn_cases.hfst" | hfst-minimize -o "$p/vn.hfst"
-  # The participle's -tako form declined (hartutakoa).
+  # The participle's and the superlative's -ko forms declined (hartutakoa,
+  # handienetakoa).
   hfst-compose -1 "$2" -2 "$p/ko_analysis.hfst" | hfst-concatenate -2 "$p/ko_cases.hfst" |
     hfst-minimize -o "$p/ko.hfst"
   # Demonyms of the place names (gasteiztar, kataluniar), lemma and

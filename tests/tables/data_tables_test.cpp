@@ -178,7 +178,7 @@ TEST(OwnForm, WordsOfTheConvertedMainNetwork) {
   // Forms the data build derives or adds: each is read, and as what it is.
   for (const char* word : {"baitu", "bainaiz", "baikara", "ikustean", "irakurtzerakoan", "2023a",
                            "hartutakoa", "direktorioa", "bistaratzean", "ekaitzaldia", "deabrutxoak",
-                           "esklusiboki"})
+                           "esklusiboki", "handienetakoa", "ospetsuenak"})
     EXPECT_FALSE(net.taula->analizatuTokena(word).empty()) << word;
   EXPECT_TRUE(net.taula->analizatuTokena("baidu").empty());
 
