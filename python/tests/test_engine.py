@@ -168,23 +168,6 @@ def test_no_leak_over_many_calls(engine):
     assert after_rss - before_rss < 2048
 
 
-def test_a_call_costs_little_more_than_the_library_call(engine, corpus_words):
-    # The same words through analyze() and through the bare library call
-    # timed in C++; best of a few rounds, so that a busy machine weighs on
-    # both alike. The bound is looser than the figure measured on an idle
-    # machine (about 1.1 microseconds), to catch regressions, not noise.
-    import time
-    words = corpus_words[:3000]
-    cpp, py = [], []
-    for _ in range(5):
-        cpp.append(engine._time_lookup(words, 1))
-        start = time.perf_counter()
-        for w in words:
-            engine.analyze(w)
-        py.append((time.perf_counter() - start) / len(words))
-    assert min(py) - min(cpp) < 3e-6
-
-
 def test_help_is_useful():
     assert "bundled Basque data" in tarvola.Engine.__doc__
     assert "personal" in tarvola.Engine.analyze.__doc__
