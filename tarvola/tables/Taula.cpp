@@ -185,6 +185,9 @@ void Taula::printEgoera(int n) const {
 
 std::vector<Analisia> Taula::analizatuTokena(std::string hitza) const {
   const std::string_view word = internal::walk_word(hitza);
+  const internal::CompactTable* index = current_index();
+  std::vector<Analisia> out;
+  if (index && index->cache().find(word, sareaIzena, out)) return out;
   internal::WalkResults found;
   internal::TaulaAccess::walk(*this, word, found);
 
@@ -193,7 +196,6 @@ std::vector<Analisia> Taula::analizatuTokena(std::string hitza) const {
   int kind = 0;
   if (word.empty() || latin1::to_upper(word[0]) == word[0]) kind = latin1::is_all_upper(word) ? 2 : 1;
 
-  std::vector<Analisia> out;
   out.reserve(found.size());
   for (std::size_t i = 0; i < found.size(); ++i) {
     Analisia reading(std::string(found[i]), sareaIzena);
@@ -203,6 +205,7 @@ std::vector<Analisia> Taula::analizatuTokena(std::string hitza) const {
     if (!prefix.empty() && (prefix == reading.e_balioa || prefix == reading.h_balioa)) continue;
     out.push_back(std::move(reading));
   }
+  if (index) index->cache().put(word, sareaIzena, out);
   return out;
 }
 

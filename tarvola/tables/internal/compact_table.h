@@ -26,6 +26,7 @@
 #include <vector>
 
 #include "tarvola/tables/Egoera.h"
+#include "tarvola/tables/internal/reading_cache.h"
 
 namespace tarvola::internal {
 
@@ -96,6 +97,9 @@ class CompactTable {
 
   // Structural identity of the states vector it was built from, used to
   // notice that a table was edited behind the index's back.
+  // The readings already found in this table (a new index starts empty).
+  const ReadingCache& cache() const { return cache_; }
+
   const void* source_data() const { return source_data_; }
   std::size_t source_size() const { return source_size_; }
 
@@ -104,6 +108,7 @@ class CompactTable {
   void find_epsilon_cycles(std::vector<std::uint32_t>& order);
   void compute_closures(const std::vector<std::uint32_t>& order);
 
+  ReadingCache cache_;
   std::vector<CompactState> states_;
   std::vector<CompactArc> arcs_;
   std::vector<CompactRun> runs_;

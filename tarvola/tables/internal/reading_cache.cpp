@@ -1,0 +1,44 @@
+#include "tarvola/tables/internal/reading_cache.h"
+
+#include <functional>
+
+namespace tarvola::internal {
+
+ReadingCache::Shard& ReadingCache::shard_of(std::string_view word) const {
+  return shards_[std::hash<std::string_view>()(word) % kShards];
+}
+
+bool ReadingCache::find(std::string_view word, const std::string& network,
+                        std::vector<Analisia>& out) const {
+  if (word.size() > kLongestCachedWord) return false;
+  // The key is built in a buffer of the thread's own, so a hit allocates
+  // nothing but the copied readings.
+  thread_local std::string key;
+  key.assign(word.data(), word.size());
+  Shard& shard = shard_of(word);
+  std::lock_guard<std::mutex> lock(shard.mutex);
+  auto it = shard.entries.find(key);
+  if (it == shard.entries.end() || it->second.network != network) return false;
+  out = it->second.readings;
+  return true;
+}
+
+void ReadingCache::put(std::string_view word, const std::string& network,
+                       const std::vector<Analisia>& readings) const {
+  if (word.size() > kLongestCachedWord) return;
+  Shard& shard = shard_of(word);
+  std::lock_guard<std::mutex> lock(shard.mutex);
+  if (shard.entries.size() >= kEntriesPerShard) shard.entries.clear();
+  shard.entries[std::string(word)] = Entry{network, readings};
+}
+
+std::size_t ReadingCache::size() const {
+  std::size_t n = 0;
+  for (Shard& shard : shards_) {
+    std::lock_guard<std::mutex> lock(shard.mutex);
+    n += shard.entries.size();
+  }
+  return n;
+}
+
+}  // namespace tarvola::internal

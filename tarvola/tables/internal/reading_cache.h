@@ -1,0 +1,52 @@
+// Readings already found, by word. A lookup's readings depend only on the
+// table, the word and the network name copied into each reading, and
+// running text repeats a few thousand words over and over: a repeated word
+// is served from here instead of walking the table again.
+//
+// Bounded (a full shard is emptied, so memory stays flat on any input) and
+// safe from several threads at once: one loaded table serves every engine
+// copy. Words longer than kLongestCachedWord are not kept.
+#ifndef TARVOLA_TABLES_INTERNAL_READING_CACHE_H
+#define TARVOLA_TABLES_INTERNAL_READING_CACHE_H
+
+#include <array>
+#include <cstddef>
+#include <mutex>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "tarvola/analysis/Analisia.h"
+
+namespace tarvola::internal {
+
+class ReadingCache {
+ public:
+  static constexpr std::size_t kShards = 16;
+  static constexpr std::size_t kEntriesPerShard = 1024;
+  static constexpr std::size_t kLongestCachedWord = 64;
+
+  // The readings kept for the word under the network name; false when none.
+  bool find(std::string_view word, const std::string& network, std::vector<Analisia>& out) const;
+  void put(std::string_view word, const std::string& network, const std::vector<Analisia>& readings) const;
+  // How many words are kept now (tests).
+  std::size_t size() const;
+
+ private:
+  struct Entry {
+    std::string network;
+    std::vector<Analisia> readings;
+  };
+  struct Shard {
+    std::mutex mutex;
+    std::unordered_map<std::string, Entry> entries;
+  };
+  Shard& shard_of(std::string_view word) const;
+
+  mutable std::array<Shard, kShards> shards_;
+};
+
+}  // namespace tarvola::internal
+
+#endif
