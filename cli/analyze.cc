@@ -1,6 +1,8 @@
 // tarvola analyze: every reading of each word, one line per reading.
 #include <iostream>
 #include <memory>
+#include <string>
+#include <unordered_map>
 
 #include "commands.h"
 #include "common/engine.h"
@@ -31,7 +33,19 @@ Runner register_analyze(CLI::App& parent) {
     auto engine = Engine::open(o, needs);
     Output out;
     if (!engine || !out.open(o.output, o.unbuffered)) return 2;
+    // Running text repeats a few thousand words: the text of a word is made
+    // once and written again from here. Bounded: emptied when full.
+    constexpr std::size_t kKeptWords = 1 << 16;
+    std::unordered_map<std::string, std::string> made;
     bool read_ok = for_each_word(o.words, o, [&](const std::string& word, const EnginePiece& piece) {
+      if (!o.json()) {
+        auto it = made.find(word);
+        if (it != made.end()) {
+          out.write(it->second);
+          out.end_item();
+          return;
+        }
+      }
       std::vector<tarvola::Analisia> readings =
           args->network.empty() ? engine->word_readings(engine->get(), piece.text())
                                 : engine->get().analizatuTokena(piece.text(), args->network);
@@ -44,7 +58,11 @@ Runner register_analyze(CLI::App& parent) {
       for (const tarvola::Analisia& a : readings)
         lines.push_back(piece.restore(a.analisia, o.text_encoding()) + "\t" +
                         piece.restore(a.sarea, o.text_encoding()));
-      write_results(out, word, lines);
+      std::string text = results_text(word, lines);
+      out.write(text);
+      out.end_item();
+      if (made.size() == kKeptWords) made.clear();
+      made.emplace(word, std::move(text));
     });
     return out.close() && read_ok ? 0 : 2;
   };

@@ -75,10 +75,16 @@ bool for_each_word(const std::vector<std::string>& words, const CommonOptions& o
   });
 }
 
+std::string results_text(const std::string& item, const std::vector<std::string>& results) {
+  std::string text;
+  for (const std::string& r : results) text.append(item).append("\t").append(r).append("\n");
+  if (results.empty()) text.append(item).append("\t+?\n");
+  text += '\n';
+  return text;
+}
+
 void write_results(Output& out, const std::string& item, const std::vector<std::string>& results) {
-  for (const std::string& r : results) out.write(item + "\t" + r + "\n");
-  if (results.empty()) out.write(item + "\t+?\n");
-  out.write("\n");
+  out.write(results_text(item, results));
   out.end_item();
 }
 

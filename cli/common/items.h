@@ -27,6 +27,8 @@ bool for_each_word(const std::vector<std::string>& words, const CommonOptions& o
 // result, ITEM<TAB>+? when there is none, then a blank line; the item is
 // complete.
 void write_results(Output& out, const std::string& item, const std::vector<std::string>& results);
+// The same text, to write later or again.
+std::string results_text(const std::string& item, const std::vector<std::string>& results);
 
 // Paragraph subcommands: every engine piece of every input in order (see
 // paragraphs.h), with a progress line. False when an input could not be
