@@ -18,7 +18,9 @@
 #   error (exit 1): continuous integration must test the real data. With
 #   TARVOLA_SOURCE_ONLY set, the main network is the converted analyser
 #   alone, without the project's lexicon and derived forms (to measure the
-#   conversion against the source analyser, data/agreement.sh).
+#   conversion against the source analyser, data/agreement.sh). With
+#   TARVOLA_KEEP_WORK set, OUT/work keeps the intermediate transducers
+#   (eumorfo.att is the main network's AT&T text, bench/peers.sh uses it).
 #   --update-committed also rewrites the committed tables in data/tables/ and
 #   data/demo/ from their SFST sources (for maintainers).
 set -eu

@@ -8,9 +8,13 @@ ReadingCache::Shard& ReadingCache::shard_of(std::string_view word) const {
   return shards_[std::hash<std::string_view>()(word) % kShards];
 }
 
+bool ReadingCache::keeps(std::string_view word) {
+  return word.size() <= kLongestCachedWord && word.find(' ') == std::string_view::npos;
+}
+
 bool ReadingCache::find(std::string_view word, const std::string& network,
                         std::vector<Analisia>& out) const {
-  if (word.size() > kLongestCachedWord) return false;
+  if (!keeps(word)) return false;
   // The key is built in a buffer of the thread's own, so a hit allocates
   // nothing but the copied readings.
   thread_local std::string key;
@@ -25,7 +29,7 @@ bool ReadingCache::find(std::string_view word, const std::string& network,
 
 void ReadingCache::put(std::string_view word, const std::string& network,
                        const std::vector<Analisia>& readings) const {
-  if (word.size() > kLongestCachedWord) return;
+  if (!keeps(word)) return;
   Shard& shard = shard_of(word);
   std::lock_guard<std::mutex> lock(shard.mutex);
   if (shard.entries.size() >= kEntriesPerShard) shard.entries.clear();

@@ -5,7 +5,9 @@
 //
 // Bounded (a full shard is emptied, so memory stays flat on any input) and
 // safe from several threads at once: one loaded table serves every engine
-// copy. Words longer than kLongestCachedWord are not kept.
+// copy. Words longer than kLongestCachedWord are not kept, nor the
+// multi-word spans the sentence analysis tries at every token: nearly all
+// of them fail within a few letters, which costs less than keeping them.
 #ifndef TARVOLA_TABLES_INTERNAL_READING_CACHE_H
 #define TARVOLA_TABLES_INTERNAL_READING_CACHE_H
 
@@ -32,6 +34,8 @@ class ReadingCache {
   void put(std::string_view word, const std::string& network, const std::vector<Analisia>& readings) const;
   // How many words are kept now (tests).
   std::size_t size() const;
+  // Whether a word is one that is kept.
+  static bool keeps(std::string_view word);
 
  private:
   struct Entry {
