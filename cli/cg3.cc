@@ -45,7 +45,7 @@ Runner register_cg3(CLI::App& parent) {
   auto args = std::make_shared<Args>();
   CLI::App* app = parent.add_subcommand(
       "cg3", "Constraint Grammar (CG3) cohorts with their readings, sentence by sentence.");
-  add_text_inputs(*app, args->common);
+  add_text_inputs(*app, args->common, true);
   app->add_flag("--attributes", args->attributes, "Add each reading's mark values <s=.. h=.. e=..>");
   app->add_flag("--vislcg3", args->vislcg3,
                 "Write word cohorts as \"<form>\" so that vislcg3 reads them");
@@ -56,13 +56,12 @@ Runner register_cg3(CLI::App& parent) {
     auto engine = Engine::open_for_paragraphs(o);
     Output out;
     if (!engine || !out.open(o.output, o.unbuffered)) return 2;
-    int number = 0;
-    bool read_ok = for_each_paragraph(o, [&](const EnginePiece& piece) {
-      tarvola::Paragrafoa p = engine->get().analizatu_paragrafoa(++number, piece.text());
+    bool read_ok = render_paragraphs(o, engine->get(), out,
+                                     [&](tarvola::Tarvola& e, const EnginePiece& piece, int number) {
+      tarvola::Paragrafoa p = e.analizatu_paragrafoa(number, piece.text());
       p.id = number;  // the engine numbers every paragraph 1; the stream counts them
       std::string text = piece.restore(p.get_CG3(args->attributes, false, false), o.text_encoding());
-      out.write(args->vislcg3 ? quote_cohorts(text) : text);
-      out.end_item();
+      return args->vislcg3 ? quote_cohorts(text) : text;
     });
     return out.close() && read_ok ? 0 : 2;
   };

@@ -18,7 +18,7 @@ Runner register_check(CLI::App& parent) {
       "check",
       "Correction document per paragraph: every token with its verdict (ok; hobe/erabili\n"
       "with replacements for non-standard forms; ezz with suggestions for unknown words).");
-  add_text_inputs(*app, args->common);
+  add_text_inputs(*app, args->common, true);
   app->add_flag("--suggest", args->suggest,
                 "Also run the (slower) spelling suggestion search for unknown words");
   add_engine_options(*app, args->common, false);
@@ -28,10 +28,9 @@ Runner register_check(CLI::App& parent) {
     auto engine = Engine::open_for_paragraphs(o);
     Output out;
     if (!engine || !out.open(o.output, o.unbuffered)) return 2;
-    bool read_ok = for_each_paragraph(o, [&](const EnginePiece& piece) {
-      out.write(piece.restore(engine->get().getParagrafoaBrindel(piece.text(), args->suggest),
-                              o.text_encoding()));
-      out.end_item();
+    bool read_ok = render_paragraphs(o, engine->get(), out,
+                                     [&](tarvola::Tarvola& e, const EnginePiece& piece, int) {
+      return piece.restore(e.getParagrafoaBrindel(piece.text(), args->suggest), o.text_encoding());
     });
     return out.close() && read_ok ? 0 : 2;
   };

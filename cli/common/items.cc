@@ -1,6 +1,10 @@
 #include "common/items.h"
 
+#include <algorithm>
+#include <exception>
 #include <iostream>
+#include <memory>
+#include <thread>
 
 #include "common/io.h"
 #include "common/paragraphs.h"
@@ -113,6 +117,60 @@ bool for_each_paragraph(const CommonOptions& options,
     }
     close_input(file);
   }
+  return ok;
+}
+
+bool render_paragraphs(const CommonOptions& options, tarvola::Tarvola& engine, Output& out,
+                       const std::function<std::string(tarvola::Tarvola&, const EnginePiece&, int)>& render) {
+  unsigned threads = options.unbuffered ? 1 : options.threads;
+  if (threads == 0) threads = std::max(1u, std::thread::hardware_concurrency());
+  // A block is a few hundred paragraphs: enough to keep every copy busy,
+  // small enough that memory stays flat on any input.
+  const std::size_t block_size = threads == 1 ? 1 : 64 * threads;
+  std::vector<std::unique_ptr<tarvola::Tarvola>> copies;
+  for (unsigned t = 1; t < threads; ++t) copies.push_back(std::make_unique<tarvola::Tarvola>(engine));
+  auto engine_of = [&](unsigned t) -> tarvola::Tarvola& { return t == 0 ? engine : *copies[t - 1]; };
+
+  std::vector<EnginePiece> block;
+  std::vector<std::string> texts;
+  int number = 0;
+  auto run_block = [&] {
+    const int first = number - static_cast<int>(block.size()) + 1;
+    texts.assign(block.size(), std::string());
+    if (threads == 1 || block.size() == 1) {
+      for (std::size_t i = 0; i < block.size(); ++i) texts[i] = render(engine, block[i], first + static_cast<int>(i));
+    } else {
+      std::vector<std::exception_ptr> failures(threads);
+      std::vector<std::thread> pool;
+      for (unsigned t = 0; t < threads; ++t)
+        pool.emplace_back([&, t] {
+          try {
+            for (std::size_t i = t; i < block.size(); i += threads)
+              texts[i] = render(engine_of(t), block[i], first + static_cast<int>(i));
+          } catch (...) {
+            failures[t] = std::current_exception();
+          }
+        });
+      for (std::thread& th : pool) th.join();
+      for (const std::exception_ptr& f : failures)
+        if (f) std::rethrow_exception(f);
+    }
+    for (const std::string& text : texts) {
+      out.write(text);
+      out.end_item();
+    }
+    block.clear();
+  };
+  const bool ok = for_each_paragraph(options, [&](const EnginePiece& piece) {
+    block.push_back(piece);
+    ++number;
+    if (block.size() == block_size) run_block();
+  });
+  run_block();
+  // A copy says farewell on standard output, which may be the output
+  // (the capture flushes it first).
+  StdoutCapture capture;
+  forward_diagnostics(capture.run([&] { copies.clear(); }), options.verbose);
   return ok;
 }
 

@@ -11,6 +11,7 @@
 #include "common/encoding.h"
 #include "common/io.h"
 #include "common/options.h"
+#include "tarvola/tarvola.h"
 
 namespace tarvola_cli {
 
@@ -29,6 +30,16 @@ bool for_each_word(const std::vector<std::string>& words, const CommonOptions& o
 void write_results(Output& out, const std::string& item, const std::vector<std::string>& results);
 // The same text, to write later or again.
 std::string results_text(const std::string& item, const std::vector<std::string>& results);
+
+// Renders each paragraph of the inputs with render(engine, piece, number)
+// (number counts from 1) and writes the texts in input order. With more
+// than one thread (options.threads, 0 for one a core; 1 with --unbuffered,
+// which must answer each paragraph as it comes) blocks of paragraphs are
+// shared among copies of the engine that share its tables: render must
+// touch nothing shared but the engine it is given. False when an input
+// could not be read.
+bool render_paragraphs(const CommonOptions& options, tarvola::Tarvola& engine, Output& out,
+                       const std::function<std::string(tarvola::Tarvola&, const EnginePiece&, int)>& render);
 
 // Paragraph subcommands: every engine piece of every input in order (see
 // paragraphs.h), with a progress line. False when an input could not be

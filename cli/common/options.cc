@@ -19,12 +19,17 @@ void add_engine_options(CLI::App& app, CommonOptions& o, bool json) {
         ->capture_default_str();
 }
 
-void add_text_inputs(CLI::App& app, CommonOptions& o) {
+void add_text_inputs(CLI::App& app, CommonOptions& o, bool threads) {
   app.add_option("files", o.inputs, "Input files ('-' or none: standard input)");
   app.add_option("--paragraph-mode", o.paragraph_mode,
                  "line: one paragraph per line; blank-line: paragraphs separated by blank lines")
       ->check(CLI::IsMember({"line", "blank-line"}))
       ->capture_default_str();
+  if (threads)
+    app.add_option("--threads", o.threads,
+                   "Paragraphs analysed at once, on copies of the engine sharing its tables "
+                   "(default 0: one a core; output keeps the input order; --unbuffered: 1)")
+        ->check(CLI::Range(0u, 64u));
 }
 
 void add_word_inputs(CLI::App& app, CommonOptions& o, const char* words_help) {

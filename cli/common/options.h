@@ -25,6 +25,7 @@ struct CommonOptions {
   std::vector<std::string> inputs;  // files to read: FILE... or --file
   bool unbuffered = false;
   bool verbose = false;
+  unsigned threads = 0;  // paragraph subcommands: 0 is one a core
 
   Encoding text_encoding() const {
     return encoding == "cp1252" ? Encoding::kCp1252 : Encoding::kUtf8;
@@ -41,8 +42,9 @@ using Runner = std::function<int()>;
 // --config, --dict, --verbose, then --encoding, --output, --unbuffered, and
 // --format when `json` is offered: every engine subcommand ends with them.
 void add_engine_options(CLI::App& app, CommonOptions& o, bool json);
-// FILE... inputs and --paragraph-mode, for the paragraph subcommands.
-void add_text_inputs(CLI::App& app, CommonOptions& o);
+// FILE... inputs, --paragraph-mode and, with `threads`, --threads, for the
+// paragraph subcommands.
+void add_text_inputs(CLI::App& app, CommonOptions& o, bool threads = false);
 // WORD... arguments and -f,--file, for the subcommands that take a word a
 // line.
 void add_word_inputs(CLI::App& app, CommonOptions& o,

@@ -12,6 +12,7 @@
 #include "tarvola/tables/internal/compact_table.h"
 #include "tarvola/tables/internal/generate_walk.h"
 #include "tarvola/tables/internal/lookup_walk.h"
+#include "tarvola/tables/internal/path_check.h"
 #include "tarvola/tables/internal/taula_access.h"
 #include "tarvola/tables/table_text.h"
 
@@ -183,11 +184,30 @@ void Taula::printEgoera(int n) const {
     egoerak[static_cast<std::size_t>(n)]->printEgoera();
 }
 
+namespace {
+
+// False for a multi-word span whose first word and blank no path of the
+// table spells: it has no reading, and finding that once for each first
+// word spares the walk for every span the sentence analysis tries there.
+bool may_begin_span(const internal::CompactTable& index, std::string_view word) {
+  const std::size_t blank = word.find(' ');
+  if (blank == std::string_view::npos) return true;
+  const std::string_view first = word.substr(0, blank + 1);
+  bool may = true;
+  if (index.cache().find_start(first, may)) return may;
+  may = internal::some_path_consumes(index, latin1::lowered(first), true);
+  index.cache().put_start(first, may);
+  return may;
+}
+
+}  // namespace
+
 std::vector<Analisia> Taula::analizatuTokena(std::string hitza) const {
   const std::string_view word = internal::walk_word(hitza);
   const internal::CompactTable* index = current_index();
   std::vector<Analisia> out;
   if (index && index->cache().find(word, sareaIzena, out)) return out;
+  if (index && !may_begin_span(*index, word)) return out;
   internal::WalkResults found;
   internal::TaulaAccess::walk(*this, word, found);
 

@@ -5,10 +5,12 @@
 
 #include <string>
 
+#include "support/chain_tables.h"
 #include "support/readings.h"
 #include "support/test_files.h"
 #include "tarvola/tables/Taula.h"
 #include "tarvola/tables/internal/compact_table.h"
+#include "tarvola/tables/internal/taula_access.h"
 
 namespace tarvola {
 namespace {
@@ -28,6 +30,22 @@ TEST(ReadingCache, RepeatsAreTheFirstLookupAndFollowTheTable) {
   // A changed table is indexed afresh: nothing found before is served.
   nouns.addZubiaTaulan(0, false, new Zubia());
   EXPECT_EQ(testing::analyses(nouns.analizatuTokena("etxeak")).size(), 2u);
+}
+
+// A multi-word span whose first word and blank no path spells is answered
+// without a walk: the answers are still the walk's, in any capitalisation.
+TEST(ReadingCache, SpansAsTheWalkFindsThem) {
+  testing::TempDir dir;
+  Taula t(dir.write("spansPG.txt", testing::chain_table({testing::word_path("hitz egin"),
+                                                         testing::word_path("hitz"),
+                                                         testing::word_path("etxe")})));
+  for (const char* span : {"hitz egin", "Hitz egin", "hitz egin", "hitz ekin", "etxe egin", "hitz egin ",
+                           "hitz  egin", "x y"}) {
+    internal::WalkResults walked;
+    internal::TaulaAccess::walk(t, span, walked, /*reference=*/true);
+    EXPECT_EQ(testing::analyses(t.analizatuTokena(span)).size(), walked.size()) << span;
+  }
+  EXPECT_EQ(t.analizatuTokena("hitz egin").size(), 1u);
 }
 
 TEST(ReadingCache, Bounded) {

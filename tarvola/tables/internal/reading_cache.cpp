@@ -36,6 +36,26 @@ void ReadingCache::put(std::string_view word, const std::string& network,
   shard.entries[std::string(word)] = Entry{network, readings};
 }
 
+bool ReadingCache::find_start(std::string_view word, bool& may_begin) const {
+  if (word.size() > kLongestCachedWord) return false;
+  thread_local std::string key;
+  key.assign(word.data(), word.size());
+  Shard& shard = shard_of(word);
+  std::lock_guard<std::mutex> lock(shard.mutex);
+  auto it = shard.starts.find(key);
+  if (it == shard.starts.end()) return false;
+  may_begin = it->second;
+  return true;
+}
+
+void ReadingCache::put_start(std::string_view word, bool may_begin) const {
+  if (word.size() > kLongestCachedWord) return;
+  Shard& shard = shard_of(word);
+  std::lock_guard<std::mutex> lock(shard.mutex);
+  if (shard.starts.size() >= kEntriesPerShard) shard.starts.clear();
+  shard.starts[std::string(word)] = may_begin;
+}
+
 std::size_t ReadingCache::size() const {
   std::size_t n = 0;
   for (Shard& shard : shards_) {

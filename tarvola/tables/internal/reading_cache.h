@@ -32,6 +32,11 @@ class ReadingCache {
   // The readings kept for the word under the network name; false when none.
   bool find(std::string_view word, const std::string& network, std::vector<Analisia>& out) const;
   void put(std::string_view word, const std::string& network, const std::vector<Analisia>& readings) const;
+  // Whether a multi-word span may begin with the word and a blank, as
+  // found before; false when not known yet.
+  bool find_start(std::string_view word, bool& may_begin) const;
+  void put_start(std::string_view word, bool may_begin) const;
+
   // How many words are kept now (tests).
   std::size_t size() const;
   // Whether a word is one that is kept.
@@ -45,6 +50,7 @@ class ReadingCache {
   struct Shard {
     std::mutex mutex;
     std::unordered_map<std::string, Entry> entries;
+    std::unordered_map<std::string, bool> starts;
   };
   Shard& shard_of(std::string_view word) const;
 
