@@ -32,7 +32,9 @@ void ReadingCache::put(std::string_view word, const std::string& network,
   if (!keeps(word)) return;
   Shard& shard = shard_of(word);
   std::lock_guard<std::mutex> lock(shard.mutex);
-  if (shard.entries.size() >= kEntriesPerShard) shard.entries.clear();
+  // A full shard gives up one word it holds, whichever comes first: a
+  // working set larger than the cache still finds most of its words.
+  if (shard.entries.size() >= kEntriesPerShard) shard.entries.erase(shard.entries.begin());
   shard.entries[std::string(word)] = Entry{network, readings};
 }
 
@@ -52,7 +54,7 @@ void ReadingCache::put_start(std::string_view word, bool may_begin) const {
   if (word.size() > kLongestCachedWord) return;
   Shard& shard = shard_of(word);
   std::lock_guard<std::mutex> lock(shard.mutex);
-  if (shard.starts.size() >= kEntriesPerShard) shard.starts.clear();
+  if (shard.starts.size() >= kEntriesPerShard) shard.starts.erase(shard.starts.begin());
   shard.starts[std::string(word)] = may_begin;
 }
 

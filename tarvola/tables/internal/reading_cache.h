@@ -3,7 +3,8 @@
 // running text repeats a few thousand words over and over: a repeated word
 // is served from here instead of walking the table again.
 //
-// Bounded (a full shard is emptied, so memory stays flat on any input) and
+// Bounded (a full shard drops a word for each new one, so memory stays flat
+// on any input: about 20 MB at most for the main network) and
 // safe from several threads at once: one loaded table serves every engine
 // copy. Words longer than kLongestCachedWord are not kept, nor the
 // multi-word spans the sentence analysis tries at every token: nearly all
@@ -26,7 +27,7 @@ namespace tarvola::internal {
 class ReadingCache {
  public:
   static constexpr std::size_t kShards = 16;
-  static constexpr std::size_t kEntriesPerShard = 1024;
+  static constexpr std::size_t kEntriesPerShard = 2048;
   static constexpr std::size_t kLongestCachedWord = 64;
 
   // The readings kept for the word under the network name; false when none.
