@@ -5,6 +5,7 @@
 
 #include <cstring>
 #include <exception>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -35,6 +36,15 @@ Speller& speller_of(EnchantDict* me) { return *static_cast<std::shared_ptr<Spell
 
 std::string_view word_of(const char* word, size_t len) { return std::string_view(word, len); }
 
+// A list Enchant frees with g_strfreev; null for none.
+char** glib_list(const std::vector<std::string>& items, size_t* count) {
+  *count = items.size();
+  if (items.empty()) return nullptr;
+  char** list = g_new0(char*, items.size() + 1);
+  for (size_t i = 0; i < items.size(); ++i) list[i] = g_strdup(items[i].c_str());
+  return list;
+}
+
 int check(EnchantDict* me, const char* const word, size_t len) {
   try {
     return speller_of(me).check(word_of(word, len)) ? 0 : 1;
@@ -47,11 +57,7 @@ int check(EnchantDict* me, const char* const word, size_t len) {
 char** suggest(EnchantDict* me, const char* const word, size_t len, size_t* out_n) {
   *out_n = 0;
   try {
-    const std::vector<std::string> found = speller_of(me).suggest(word_of(word, len));
-    if (found.empty()) return nullptr;
-    char** list = g_new0(char*, found.size() + 1);
-    for (const std::string& s : found) list[(*out_n)++] = g_strdup(s.c_str());
-    return list;
+    return glib_list(speller_of(me).suggest(word_of(word, len)), out_n);
   } catch (const std::exception& e) {
     enchant_dict_set_error(me, e.what());
     return nullptr;
@@ -113,10 +119,7 @@ void dispose_dict(EnchantProvider*, EnchantDict* dict) {
 int dictionary_exists(EnchantProvider*, const char* const tag) { return is_basque(tag) ? 1 : 0; }
 
 char** list_dicts(EnchantProvider*, size_t* out_n) {
-  *out_n = sizeof kTags / sizeof kTags[0];
-  char** list = g_new0(char*, *out_n + 1);
-  for (size_t i = 0; i < *out_n; ++i) list[i] = g_strdup(kTags[i]);
-  return list;
+  return glib_list({std::begin(kTags), std::end(kTags)}, out_n);
 }
 
 const char* identify(EnchantProvider*) { return "tarvola"; }
