@@ -17,7 +17,7 @@ build_productive() {
   PRODUCTIVE_WORK="$1/productive"
   mkdir -p "$PRODUCTIVE_WORK"
   for rule in bait_surface finite_verb bait_analysis vn_surface vn_analysis vn_cases ko_analysis ko_cases \
-              place_names lower_first demonym_stem demonym_cases noun_lemmas adjective_lemmas; do
+              place_names lower_first demonym_stem demonym_cases N_lemmas J_lemmas; do
     productive_rule "$rule"
   done
   p=$PRODUCTIVE_WORK
@@ -43,14 +43,13 @@ build_productive() {
     hfst-minimize -o "$p/demonym.hfst"
   # Derivation (lexicon/suffixes.txt): the lemmas of a base class, each
   # followed by a suffix inflected in the derived word's class.
+  # (productive/N_lemmas.regexp: nouns; J_lemmas.regexp: adjectives.)
   for base in N J; do
     awk -v base=$base '$1 == base { print $2, $3 }' "$HERE/lexicon/suffixes.txt" > "$p/suffixes_$base.txt"
     build_lexicon "$p" "$p/suffixes_$base.hfst" "$p/suffixes_$base.txt"
+    hfst-compose -1 "$2" -2 "$p/${base}_lemmas.hfst" | hfst-project -p output | hfst-minimize |
+      hfst-concatenate -2 "$p/suffixes_$base.hfst" | hfst-minimize -o "$p/derived_$base.hfst"
   done
-  hfst-compose -1 "$2" -2 "$p/noun_lemmas.hfst" | hfst-project -p output | hfst-minimize |
-    hfst-concatenate -2 "$p/suffixes_N.hfst" | hfst-minimize -o "$p/derived_N.hfst"
-  hfst-compose -1 "$2" -2 "$p/adjective_lemmas.hfst" | hfst-project -p output | hfst-minimize |
-    hfst-concatenate -2 "$p/suffixes_J.hfst" | hfst-minimize -o "$p/derived_J.hfst"
   hfst-disjunct -1 "$p/bait.hfst" -2 "$p/vn.hfst" | hfst-disjunct -2 "$p/ko.hfst" |
     hfst-disjunct -2 "$p/demonym.hfst" | hfst-disjunct -2 "$p/derived_N.hfst" |
     hfst-disjunct -2 "$p/derived_J.hfst" -o "$3"

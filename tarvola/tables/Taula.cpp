@@ -195,7 +195,7 @@ bool may_begin_span(const internal::CompactTable& index, std::string_view word) 
   const std::string_view first = word.substr(0, blank + 1);
   bool may = true;
   if (index.cache().find_start(first, may)) return may;
-  may = internal::some_path_consumes(index, latin1::lowered(first), true);
+  may = internal::some_path_begins(index, latin1::lowered(first));
   index.cache().put_start(first, may);
   return may;
 }

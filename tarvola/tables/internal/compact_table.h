@@ -95,11 +95,11 @@ class CompactTable {
     return nullptr;
   }
 
-  // Structural identity of the states vector it was built from, used to
-  // notice that a table was edited behind the index's back.
   // The readings already found in this table (a new index starts empty).
   const ReadingCache& cache() const { return cache_; }
 
+  // Structural identity of the states vector it was built from, used to
+  // notice that a table was edited behind the index's back.
   const void* source_data() const { return source_data_; }
   std::size_t source_size() const { return source_size_; }
 

@@ -6,7 +6,7 @@
 
 namespace tarvola::internal {
 
-bool some_path_consumes(const CompactTable& table, std::string_view walked, bool prefix) {
+bool some_path_begins(const CompactTable& table, std::string_view walked) {
   const std::size_t n = walked.size();
   const CompactArc* arcs = table.arcs();
   const char* pool = table.pool();
@@ -28,15 +28,14 @@ bool some_path_consumes(const CompactTable& table, std::string_view walked, bool
   at[0].push_back(0);
   marks[0] = base;
 
-  // An arc read at `pos`: true when it ends the search (a path found).
+  // An arc read at `pos`: true when it reaches the end (a path found).
   auto take = [&](const CompactArc& a, std::size_t pos) {
     const std::size_t next = pos + a.lower_length;
-    if (next > n) return prefix;  // runs past a prefix: the path may go on
-    if (a.target < 0) return !prefix && next == n;
-    if (prefix && next == n) return true;
+    if (next > n) return true;  // a symbol running past the end: the path may go on
+    if (a.target < 0) return false;
+    if (next == n) return true;
     const std::size_t target = static_cast<std::size_t>(a.target);
-    if (target >= table.state_count() ||
-        !table.viable(target, next < n ? static_cast<unsigned char>(walked[next]) : -1))
+    if (target >= table.state_count() || !table.viable(target, static_cast<unsigned char>(walked[next])))
       return false;
     const std::uint32_t mark = base + static_cast<std::uint32_t>(next);
     if (marks[target] != mark) {
@@ -45,23 +44,21 @@ bool some_path_consumes(const CompactTable& table, std::string_view walked, bool
     }
     return false;
   };
-  for (std::size_t pos = 0; pos <= n; ++pos) {
+  // Nothing is queued at the end: reaching it is the answer.
+  for (std::size_t pos = 0; pos < n; ++pos) {
     const std::string_view rest = walked.substr(pos);
     std::vector<int>& here = at[pos];
     for (std::size_t i = 0; i < here.size(); ++i) {
       const CompactState& st = table.state(static_cast<std::size_t>(here[i]));
       for (std::uint32_t k = 0; k < st.epsilon_count; ++k)
         if (take(arcs[st.arc_begin + k], pos)) return true;
-      if (rest.empty()) continue;
       const CompactRun* run = table.run_for(st, static_cast<unsigned char>(rest[0]));
       if (run == nullptr) continue;
       for (std::uint32_t k = 0; k < run->count; ++k) {
         const CompactArc& a = arcs[run->begin + k];
-        // The symbol must spell the rest of the word as far as both go: one
-        // that runs past the end of a prefix is taken as a path going on.
+        // The symbol must spell the rest of the text as far as both go.
         const std::size_t common = a.lower_length < rest.size() ? a.lower_length : rest.size();
         if (common > 1 && std::memcmp(pool + a.lower + 1, rest.data() + 1, common - 1) != 0) continue;
-        if (a.lower_length > rest.size() && !prefix) continue;
         if (take(a, pos)) return true;
       }
     }

@@ -1,8 +1,8 @@
-// Whether any path of a table consumes a whole word on its lower side: the
-// lookup walk's paths without their outputs, filters or budgets. A word no
-// path consumes has no reading, and the states a path can be in at each
-// position of the word say so at a small part of the walk's cost, since the
-// walk follows every output separately. The sentence analysis tries a
+// Whether any path of a table begins by spelling a text on its lower side:
+// the lookup walk's paths without their outputs, filters or budgets. A word
+// no path begins with has no reading, and the states a path can be in at
+// each position say so at a small part of the walk's cost, since the walk
+// follows every output separately. The sentence analysis tries a
 // multi-word span at every token, and nearly none of them is in a table.
 #ifndef TARVOLA_TABLES_INTERNAL_PATH_CHECK_H
 #define TARVOLA_TABLES_INTERNAL_PATH_CHECK_H
@@ -13,10 +13,9 @@
 
 namespace tarvola::internal {
 
-// `walked` is the word as the walk reads it (lower-cased, cut by walk_word).
-// Whether a path consumes it and ends there, or (`prefix`) consumes it and
-// may go on.
-bool some_path_consumes(const CompactTable& table, std::string_view walked, bool prefix);
+// `walked` is the text as the walk reads it (lower-cased, cut by
+// walk_word). A path whose last symbol runs past the end counts.
+bool some_path_begins(const CompactTable& table, std::string_view walked);
 
 }  // namespace tarvola::internal
 

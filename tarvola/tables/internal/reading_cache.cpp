@@ -4,6 +4,28 @@
 
 namespace tarvola::internal {
 
+namespace {
+
+// A value kept under the word in the shard's map, or null. The key is
+// built in a buffer of the thread's own, so a hit allocates nothing.
+template <typename Map>
+const typename Map::mapped_type* kept(const Map& map, std::string_view word) {
+  thread_local std::string key;
+  key.assign(word.data(), word.size());
+  auto it = map.find(key);
+  return it == map.end() ? nullptr : &it->second;
+}
+
+// A full map gives up one word it holds, whichever comes first: a working
+// set larger than the cache still finds most of its words.
+template <typename Map>
+void keep(Map& map, std::string_view word, typename Map::mapped_type value) {
+  if (map.size() >= ReadingCache::kEntriesPerShard) map.erase(map.begin());
+  map[std::string(word)] = std::move(value);
+}
+
+}  // namespace
+
 ReadingCache::Shard& ReadingCache::shard_of(std::string_view word) const {
   return shards_[std::hash<std::string_view>()(word) % kShards];
 }
@@ -15,15 +37,11 @@ bool ReadingCache::keeps(std::string_view word) {
 bool ReadingCache::find(std::string_view word, const std::string& network,
                         std::vector<Analisia>& out) const {
   if (!keeps(word)) return false;
-  // The key is built in a buffer of the thread's own, so a hit allocates
-  // nothing but the copied readings.
-  thread_local std::string key;
-  key.assign(word.data(), word.size());
   Shard& shard = shard_of(word);
   std::lock_guard<std::mutex> lock(shard.mutex);
-  auto it = shard.entries.find(key);
-  if (it == shard.entries.end() || it->second.network != network) return false;
-  out = it->second.readings;
+  const Entry* entry = kept(shard.entries, word);
+  if (entry == nullptr || entry->network != network) return false;
+  out = entry->readings;
   return true;
 }
 
@@ -32,21 +50,16 @@ void ReadingCache::put(std::string_view word, const std::string& network,
   if (!keeps(word)) return;
   Shard& shard = shard_of(word);
   std::lock_guard<std::mutex> lock(shard.mutex);
-  // A full shard gives up one word it holds, whichever comes first: a
-  // working set larger than the cache still finds most of its words.
-  if (shard.entries.size() >= kEntriesPerShard) shard.entries.erase(shard.entries.begin());
-  shard.entries[std::string(word)] = Entry{network, readings};
+  keep(shard.entries, word, Entry{network, readings});
 }
 
 bool ReadingCache::find_start(std::string_view word, bool& may_begin) const {
   if (word.size() > kLongestCachedWord) return false;
-  thread_local std::string key;
-  key.assign(word.data(), word.size());
   Shard& shard = shard_of(word);
   std::lock_guard<std::mutex> lock(shard.mutex);
-  auto it = shard.starts.find(key);
-  if (it == shard.starts.end()) return false;
-  may_begin = it->second;
+  const bool* may = kept(shard.starts, word);
+  if (may == nullptr) return false;
+  may_begin = *may;
   return true;
 }
 
@@ -54,8 +67,7 @@ void ReadingCache::put_start(std::string_view word, bool may_begin) const {
   if (word.size() > kLongestCachedWord) return;
   Shard& shard = shard_of(word);
   std::lock_guard<std::mutex> lock(shard.mutex);
-  if (shard.starts.size() >= kEntriesPerShard) shard.starts.erase(shard.starts.begin());
-  shard.starts[std::string(word)] = may_begin;
+  keep(shard.starts, word, may_begin);
 }
 
 std::size_t ReadingCache::size() const {

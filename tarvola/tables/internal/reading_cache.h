@@ -7,8 +7,8 @@
 // on any input: about 20 MB at most for the main network) and
 // safe from several threads at once: one loaded table serves every engine
 // copy. Words longer than kLongestCachedWord are not kept, nor the
-// multi-word spans the sentence analysis tries at every token: nearly all
-// of them fail within a few letters, which costs less than keeping them.
+// multi-word spans the sentence analysis tries at every token (few repeat);
+// what is kept for them is whether a span may begin with a word at all.
 #ifndef TARVOLA_TABLES_INTERNAL_READING_CACHE_H
 #define TARVOLA_TABLES_INTERNAL_READING_CACHE_H
 
