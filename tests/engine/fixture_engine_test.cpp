@@ -25,17 +25,11 @@
 namespace tarvola {
 namespace {
 
+using testing::fixture_config;
+using testing::quiet_engine;
 using testing::sourced;
 using testing::Strings;
 using testing::TempDir;
-
-// An engine built quietly; what it prints is not checked here.
-std::unique_ptr<Tarvola> quiet_engine(const std::string& config, const std::string& dictionary) {
-  ::testing::internal::CaptureStdout();
-  auto engine = std::make_unique<Tarvola>(config, dictionary);
-  ::testing::internal::GetCapturedStdout();
-  return engine;
-}
 
 std::size_t token_count(const Paragrafoa& p) {
   std::size_t n = 0;
@@ -43,15 +37,10 @@ std::size_t token_count(const Paragrafoa& p) {
   return n;
 }
 
-std::string fixture_config(const TempDir& dir) {
-  return dir.write("engine.conf", testing::absolute_engine_config());
-}
-
 TEST(BadInput, ConfigurationMissingEmptyOrAFolder) {
   TempDir dir;
-  const std::string dictionary = testing::data_path("engine_hiztegia.txt");
   for (const std::string& config : {dir.file("missing.conf"), dir.write("empty.conf", ""), dir.path()}) {
-    auto e = quiet_engine(config, dictionary);
+    auto e = quiet_engine(config);
     // No networks: nothing is found, and a paragraph comes back unsplit.
     EXPECT_TRUE(e->analizatuTokena("etxea").empty()) << config;
     EXPECT_TRUE(e->analizatu_paragrafoa(1, "Etxea. Bai.").esaldiak.empty()) << config;
@@ -63,9 +52,7 @@ TEST(BadInput, TableListedButEmptyOrAFolder) {
   const std::string empty = dir.write("emptyPG.txt", "");
   const std::string folder = dir.file("folderPG.txt");
   ASSERT_EQ(mkdir(folder.c_str(), 0700), 0);
-  const std::string config =
-      dir.write("c.conf", testing::absolute_engine_config() + empty + "\n" + folder + "\n");
-  auto e = quiet_engine(config, testing::data_path("engine_hiztegia.txt"));
+  auto e = quiet_engine(fixture_config(dir, empty + "\n" + folder + "\n"));
   // Both load as tables without states; the other networks work as before.
   EXPECT_TRUE(e->analizatuTokena("etxea", "empty").empty());
   EXPECT_TRUE(e->analizatuTokena("etxea", "folder").empty());
@@ -139,7 +126,7 @@ TEST(BadInput, DictionaryMissingEmptyOrAFolder) {
 TEST(BadInput, UnreadableFilesActAsMissingOnes) {
   if (geteuid() == 0) GTEST_SKIP() << "permissions do not bind the superuser";
   TempDir dir;
-  const std::string config = dir.write("c.conf", testing::absolute_engine_config());
+  const std::string config = fixture_config(dir);
   const std::string dictionary = dir.write("hp.txt", "etxe\t<ARR>\t\t\tHP\n");
   ASSERT_EQ(chmod(config.c_str(), 0), 0);
   ASSERT_EQ(chmod(dictionary.c_str(), 0), 0);
@@ -150,7 +137,7 @@ TEST(BadInput, UnreadableFilesActAsMissingOnes) {
 
 TEST(BadInput, EmptyAndBinaryParagraphs) {
   TempDir dir;
-  auto e = quiet_engine(fixture_config(dir), testing::data_path("engine_hiztegia.txt"));
+  auto e = quiet_engine(fixture_config(dir));
   EXPECT_EQ(token_count(e->analizatu_paragrafoa(1, "")), 0u);
   EXPECT_EQ(token_count(e->analizatu_paragrafoa(1, "     ")), 0u);
   std::string binary;
@@ -165,36 +152,19 @@ TEST(BadInput, EmptyAndBinaryParagraphs) {
   EXPECT_GT(token_count(tag), 0u);
 }
 
-Strings every_reading(const Paragrafoa& p) {
-  Strings out;
-  for (const Esaldia& e : p.esaldiak)
-    for (const Tokena& t : e.tokenak)
-      for (const std::string& r : sourced(t.analisiak)) out.push_back(t.forma + " " + r);
-  return out;
-}
-
 // The fixture engine with one more network, "OSVARmorfo", whose capital
 // sorts it before the others.
 class EngineAnalysis : public ::testing::Test {
  protected:
   static void SetUpTestSuite() {
-    dir_ = new TempDir;
-    const std::string config = testing::absolute_engine_config() + testing::engine_table("OSVARmorfoPG.txt") + "\n";
-    ::testing::internal::CaptureStdout();
-    engine_ = new Tarvola(dir_->write("engine.conf", config), testing::data_path("engine_hiztegia.txt"));
-    loaded_ = ::testing::internal::GetCapturedStdout();
+    TempDir dir;
+    engine_ = quiet_engine(fixture_config(dir, testing::engine_table("OSVARmorfoPG.txt") + "\n"));
   }
-  static void TearDownTestSuite() {
-    delete engine_;
-    delete dir_;
-  }
-  static inline TempDir* dir_ = nullptr;
-  static inline Tarvola* engine_ = nullptr;
-  static inline std::string loaded_;
+  static void TearDownTestSuite() { engine_.reset(); }
+  static inline std::unique_ptr<Tarvola> engine_;
 };
 
 TEST_F(EngineAnalysis, OneNetwork) {
-  EXPECT_EQ(loaded_, "\n\n\n\n");  // one empty line per network loaded
   EXPECT_EQ(sourced(engine_->analizatuTokena("etxea", "eumorfo")), Strings{"eumorfo:etxe<IZE><ARR><ABS><NUMS><MUGM>"});
   // The table is used as it is: no dictionary, no filtering.
   EXPECT_EQ(sourced(engine_->analizatuTokena("etxezulo", "osag0")), Strings{"osag0:etxe+zulo<IZE><ARR><Rare>"});
@@ -216,7 +186,7 @@ TEST_F(EngineAnalysis, ParagraphIsAlwaysNumberOne) {
   EXPECT_EQ(seven.id, 1);
   ASSERT_EQ(one.esaldiak.size(), 3u);
   EXPECT_EQ(seven.get_CG3(true, false, false), one.get_CG3(true, false, false));
-  EXPECT_EQ(every_reading(seven), every_reading(one));
+  EXPECT_EQ(testing::paragraph_readings(seven), testing::paragraph_readings(one));
   // The personal dictionary comes first: "Etxean" gets only its reading.
   const Tokena& etxean = one.esaldiak[1].tokenak[0];
   EXPECT_EQ(etxean.forma, "Etxean");
