@@ -60,36 +60,31 @@ TEST(EngineConfiguration, CommentsAndMissingFiles) {
 
 TEST(EngineConfiguration, TenTablesAtMost) {
   TempDir dir;
-  std::vector<std::string> tables;
-  for (int i = 0; i < 11; ++i) {
-    std::string name = "n" + std::to_string(10 + i);
-    tables.push_back(dir.write(name + ".txt", word_table(name)));
-  }
+  std::string ten;
+  for (int i = 10; i < 20; ++i)
+    ten += dir.write("n" + std::to_string(i) + ".txt", word_table("n" + std::to_string(i))) + "\n";
+  const std::string eleventh = dir.write("n20.txt", word_table("n20")) + "\n";
+  const std::string gone = dir.file("gone.txt") + "\n";
   const std::string limit = "kargatu_sareak: Taula kopuru handiegia: 10 da topea!\n";
 
-  // Eleven listed: ten loaded, the eleventh neither tested nor loaded.
-  std::string config;
-  for (const std::string& t : tables) config += t + "\n";
-  EXPECT_EQ(load_output(dir.write("eleven", config)), limit + std::string(10, '\n'));
-  Tarvola eleven(dir.file("eleven"));
-  EXPECT_TRUE(knows(eleven, "n19"));
-  EXPECT_FALSE(knows(eleven, "n20"));
-
-  // Ten and then a missing one: the missing path is never tested.
-  config.clear();
-  for (int i = 0; i < 10; ++i) config += tables[i] + "\n";
-  EXPECT_EQ(load_output(dir.write("ten", config + dir.file("gone.txt") + "\n")),
-            limit + std::string(10, '\n'));
+  // Eleven listed, or ten and a missing one: ten loaded, the eleventh path
+  // neither tested nor loaded.
+  for (const std::string& last : {eleventh, gone}) {
+    const std::string config = dir.write("c", ten + last);
+    EXPECT_EQ(load_output(config), limit + std::string(10, '\n'));
+    Tarvola engine(config);
+    EXPECT_TRUE(knows(engine, "n19"));
+    EXPECT_FALSE(knows(engine, "n20"));
+  }
 
   // Missing files do not count: three missing among ten existing load all
   // ten. (After the tenth, a missing one would meet the limit first.)
-  std::string mixed = dir.file("x1.txt") + "\n" + dir.file("x2.txt") + "\n" +
-                      config.substr(0, config.size() / 2) + dir.file("x3.txt") + "\n" +
-                      config.substr(config.size() / 2);
-  std::string out = load_output(dir.write("mixed", mixed));
+  const std::string mixed = dir.write("mixed", dir.file("x1.txt") + "\n" + gone + ten.substr(0, ten.size() / 2) +
+                                                   dir.file("x3.txt") + "\n" + ten.substr(ten.size() / 2));
+  std::string out = load_output(mixed);
   EXPECT_EQ(out.find("Taula kopuru"), std::string::npos);
   EXPECT_EQ(std::count(out.begin(), out.end(), '\n'), 13);
-  Tarvola all(dir.file("mixed"));
+  Tarvola all(mixed);
   EXPECT_TRUE(knows(all, "n10"));
   EXPECT_TRUE(knows(all, "n19"));
 }
