@@ -29,6 +29,7 @@ if(TARGET tarvola_cli)
   find_program(TARVOLA_BASH bash)
   if(TARVOLA_BASH AND NOT WIN32)
     file(GLOB cli_flows ${cli_dir}/flows/*.sh)
+    list(FILTER cli_flows EXCLUDE REGEX "/common\\.sh$")  # sourced by the others
     foreach(flow ${cli_flows})
       get_filename_component(name ${flow} NAME_WE)
       add_test(NAME cli.flow.${name}

@@ -7,15 +7,13 @@
 
 #include <algorithm>
 #include <atomic>
-#include <fstream>
-#include <set>
 #include <string>
 #include <thread>
 #include <vector>
 
 #include "support/engine_fixture.h"
+#include "support/readings.h"
 #include "support/test_files.h"
-#include "tarvola/base/latin1.h"
 #include "tarvola/engine/Tarvola.h"
 #include "tarvola/tables/Taula.h"
 
@@ -23,7 +21,6 @@ namespace tarvola {
 namespace {
 
 constexpr int kThreads = 8;
-constexpr std::size_t kMaxWords = 3000;
 
 // One line per reading: analysis, capitalisation kind, and the surface form
 // generation gives.
@@ -37,19 +34,7 @@ std::string flatten(const std::vector<Analisia>& readings) {
 // Distinct words of the code page 1252 prose, or the fixture words when the
 // corpus is missing.
 std::vector<std::string> test_words() {
-  std::ifstream in(testing::corpus_path("eu-ud-dev.cp1252.txt"), std::ios::binary);
-  std::set<std::string> seen;
-  std::vector<std::string> words;
-  std::string word;
-  char c;
-  while (words.size() < kMaxWords && in.get(c)) {
-    if (latin1::is_word_char(c)) {
-      word += c;
-    } else if (!word.empty()) {
-      if (seen.insert(word).second) words.push_back(word);
-      word.clear();
-    }
-  }
+  std::vector<std::string> words = testing::corpus_words("eu-ud-dev.cp1252.txt", 3000);
   if (words.empty())
     words = {"etxea", "Etxean", "ETXEA", "gizonarekin", "etxezulo", "hala", "ez", "bai", "xyzw"};
   return words;
@@ -111,28 +96,21 @@ TEST(Concurrency, OneTableManyReaders) {
   EXPECT_EQ(mismatches.load(), 0u);
 }
 
-std::string rendered(const Paragrafoa& p) {
-  std::string out;
-  for (const Esaldia& s : p.esaldiak)
-    for (const Tokena& t : s.tokenak) out += t.forma + "\t" + flatten(t.analisiak);
-  return out;
-}
-
 TEST(Concurrency, TwoEnginesBuiltAtOnce) {
   testing::TempDir dir;
-  const std::string config = dir.write("engine.conf", testing::absolute_engine_config());
+  const std::string config = testing::fixture_config(dir);
   const std::string dictionary = testing::data_path("engine_hiztegia.txt");
   const std::string text = "Kaixo! Etxean, hala ere, ez. Getxon bai etxezulo.";
 
   ::testing::internal::CaptureStdout();
-  const std::string alone = rendered(Tarvola(config, dictionary).analizatu_paragrafoa(1, text));
-  std::string results[2];
+  const auto alone = testing::paragraph_readings(Tarvola(config, dictionary).analizatu_paragrafoa(1, text));
+  testing::Strings results[2];
   {
     std::thread threads[2];
     for (int i = 0; i < 2; ++i)
       threads[i] = std::thread([&, i] {
         Tarvola engine(config, dictionary);
-        results[i] = rendered(engine.analizatu_paragrafoa(1, text));
+        results[i] = testing::paragraph_readings(engine.analizatu_paragrafoa(1, text));
       });
     for (std::thread& t : threads) t.join();
   }

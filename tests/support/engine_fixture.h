@@ -5,10 +5,14 @@
 #ifndef TARVOLA_TESTS_SUPPORT_ENGINE_FIXTURE_H
 #define TARVOLA_TESTS_SUPPORT_ENGINE_FIXTURE_H
 
+#include <memory>
 #include <sstream>
 #include <string>
 
+#include <gtest/gtest.h>
+
 #include "support/test_files.h"
+#include "tarvola/engine/Tarvola.h"
 
 namespace tarvola::testing {
 
@@ -31,6 +35,20 @@ inline std::string absolute_config(const std::string& config_path, const std::st
 // The fixture configuration, its entries made absolute.
 inline std::string absolute_engine_config() {
   return absolute_config(data_path("engine.conf"), TARVOLA_TEST_DATA_DIR);
+}
+
+// That configuration written into `dir`, with `more` entries after it.
+inline std::string fixture_config(const TempDir& dir, const std::string& more = "") {
+  return dir.write("engine.conf", absolute_engine_config() + more);
+}
+
+// An engine built quietly: what loading prints is the configuration tests'.
+inline std::unique_ptr<Tarvola> quiet_engine(const std::string& config,
+                                             const std::string& dictionary = data_path("engine_hiztegia.txt")) {
+  ::testing::internal::CaptureStdout();
+  auto engine = std::make_unique<Tarvola>(config, dictionary);
+  ::testing::internal::GetCapturedStdout();
+  return engine;
 }
 
 }  // namespace tarvola::testing

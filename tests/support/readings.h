@@ -11,6 +11,7 @@
 #include "tarvola/analysis/Analisia.h"
 #include "tarvola/tables/Taula.h"
 #include "tarvola/tables/internal/taula_access.h"
+#include "tarvola/text/Paragrafoa.h"
 
 namespace tarvola::testing {
 
@@ -33,6 +34,16 @@ inline Strings sourced(const std::vector<Analisia>& readings) {
 inline Strings forms(const std::vector<Analisia>& readings) {
   Strings out;
   for (const Analisia& a : readings) out.push_back(a.forma);
+  return out;
+}
+
+// "form network:analysis capitals" for every reading of a paragraph.
+inline Strings paragraph_readings(const Paragrafoa& p) {
+  Strings out;
+  for (const Esaldia& s : p.esaldiak)
+    for (const Tokena& t : s.tokenak)
+      for (const Analisia& a : t.analisiak)
+        out.push_back(t.forma + " " + a.sarea + ":" + a.analisia + " " + std::to_string(a.maiuskulaMota));
   return out;
 }
 

@@ -8,8 +8,12 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <string>
 #include <system_error>
+#include <vector>
+
+#include "../../data/tools/corpus_words.h"
 
 namespace tarvola::testing {
 
@@ -19,6 +23,19 @@ inline std::string data_path(const std::string& relative) {
 
 inline std::string corpus_path(const std::string& name) {
   return std::string(TARVOLA_CORPUS_DIR) + "/" + name;
+}
+
+// The first `most` distinct words of a corpus file, as the data tools count
+// words; none when the corpus is missing.
+inline std::vector<std::string> corpus_words(const std::string& name, std::size_t most) {
+  std::ifstream in(corpus_path(name), std::ios::binary);
+  std::set<std::string> seen;
+  std::vector<std::string> words;
+  for (std::string line; words.size() < most && std::getline(in, line);)
+    tarvola_data::for_each_word(line, [&](const std::string& w) {
+      if (words.size() < most && seen.insert(w).second) words.push_back(w);
+    });
+  return words;
 }
 
 inline std::string read_file(const std::string& path) {

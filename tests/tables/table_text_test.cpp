@@ -98,13 +98,6 @@ TEST(TableLoad, DecipheredTextRules) {
   loaded("0\ta\t" + std::string(2300, '1') + "\n", true, table_text::LoadReport::kLineTooLong);
 }
 
-TEST(TableLoadDeathTest, LongFieldExitsWithOneAndMissingPlainFileWithZero) {
-  testing::TempDir dir;
-  std::string path = dir.write("long.txt", "0\t" + std::string(120, 'a') + "\t1\n");
-  EXPECT_EXIT({ Taula t(path); }, ::testing::ExitedWithCode(1), "");
-  EXPECT_EXIT({ Taula t(dir.file("missing.txt")); }, ::testing::ExitedWithCode(0), "");
-}
-
 TEST(TableLoad, MissingEncipheredFileIsSilentAndEmpty) {
   testing::TempDir dir;
   ::testing::internal::CaptureStdout();

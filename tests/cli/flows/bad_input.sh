@@ -5,8 +5,6 @@ conf="$DATA/tarvola.conf"
 
 : | "$TOOL" analyze --config "$conf" > empty.txt 2> empty.err || fail "empty input: exit $?"
 [ ! -s empty.txt ] || fail "empty input gave output: $(head -c 200 empty.txt)"
-: | "$TOOL" cg3 --config "$conf" > empty-cg3.txt 2> empty-cg3.err || fail "empty text: exit $?"
-[ ! -s empty-cg3.txt ] || fail "empty text gave output: $(head -c 200 empty-cg3.txt)"
 printf '   \n\t\n\n' | "$TOOL" multext --config "$conf" -b > blank.txt 2> blank.err \
   || fail "blank text: exit $?"
 [ ! -s blank.txt ] || fail "blank text gave output: $(head -c 200 blank.txt)"
