@@ -250,7 +250,7 @@ TEST(SuggestionLimit, AtMostFiveFromTheBroadLevels) {
 using Brindel = ServiceTest;
 
 // The document frame and its markup are the writer's own tests
-// (output/brindel_writer_test.cpp); here, what the engine hands it.
+// (output/writers_test.cpp); here, what the engine hands it.
 TEST_F(Brindel, EmptyTextHasOneEmptySentence) {
   EXPECT_EQ(engine_->getParagrafoaBrindel("", true), "<p>\n<es ezk=\"1\" pzk=\"0\">\n</es>\n</p>\n");
 }
